@@ -35,10 +35,10 @@ bool chargesDossier(const QString &tipoServ);
 bool skipsDialogWhenCovered(const QString &tipoServ);
 
 /// The row of the services of external laboratories.
-extern const QString kLaboratoriosExternos;
+inline constexpr QLatin1StringView kLaboratoriosExternos{"LE - LABORATORIOS EXTERNOS"};
 /// The row of payments to an account.
-extern const QString kAbonoACuenta;
+inline constexpr QLatin1StringView kAbonoACuenta{"AB - ABONO A CUENTA"};
 /// The words of an admission: the only service whose note creates one.
-extern const QString kAdmision;
+inline constexpr QLatin1StringView kAdmision{"ADMISION"};
 
 }  // namespace kaldo
