@@ -1,0 +1,163 @@
+#pragma once
+
+#include "toolkit/forms/field.h"
+#include "toolkit/forms/list_popup.h"
+
+#include <QTableView>
+
+#include <map>
+#include <optional>
+
+namespace kaldo {
+
+/// One column of a DataGrid: GridColumn("CANT", "Cant", 6).mask(CellMask::Integer).editable().
+class GridColumn {
+public:
+    /// `field` as the model names it, the title shown, the width in characters.
+    GridColumn(QString field, QString title, int width);
+
+    GridColumn &mask(CellMask mask);
+    /// Where the mask does not settle it: numbers stand right, all else left.
+    GridColumn &align(Qt::Alignment alignment);
+    GridColumn &editable(bool on = true);
+    GridColumn &upper();
+    /// Characters that can be typed into a cell; 0 for no limit.
+    GridColumn &limit(int characters);
+    /// Only these characters can be typed.
+    GridColumn &allowed(const QString &characters);
+    /// Cells are chosen from another model by a drop-down; a typed text is sought in the value
+    /// field, then by prefix in the display field.
+    GridColumn &lookup(LookupSource source);
+    /// Sum of the column in the footer, under this mask.
+    GridColumn &sum(CellMask mask = CellMask::MoneyTight);
+    GridColumn &hidden();
+    /// This column takes what width is left.
+    GridColumn &stretch();
+
+    struct Settings {
+        QString field, title, allowed;
+        int width = 10;
+        int limit = 0;
+        CellMask mask = CellMask::Text;
+        std::optional<Qt::Alignment> alignment;
+        std::optional<CellMask> sum;
+        std::optional<LookupSource> lookup;
+        bool editable = false, upper = false, hidden = false, stretch = false;
+    };
+    const Settings &settings() const { return settings_; }
+
+private:
+    Settings settings_;
+};
+
+/// A table bound to a model. The model names its fields by headerData(section, Qt::Horizontal,
+/// Qt::DisplayRole), gives raw values in Qt::EditRole, and may hand out its rows by fetchMore();
+/// it outlives the grid or is detached from it by setModel(nullptr). setData() may throw: the
+/// failure is shown and the editor stays open with its text.
+///
+/// Keyboard. Arrows, Home, End and the page keys move; Ctrl+C copies the current row, or the
+/// selected ones, tab-separated; F2 or typing opens the cell editor where the row is open for edit
+/// and the column is editable; F4 or Alt+Down opens the list of a look-up column; Escape closes the
+/// editor and keeps the old value, and without an editor runs the escape handler. Enter puts the
+/// cell's text into the model, closes the editor, and then runs the enter handler; unless that
+/// moved the focus, Enter goes on to the next editable column of an open row, else out of the grid.
+class DataGrid : public QTableView, public Field {
+    Q_OBJECT
+
+public:
+    explicit DataGrid(QWidget *parent = nullptr);
+
+    void setColumns(const QList<GridColumn> &columns);
+    void setModel(QAbstractItemModel *model) override;
+
+    /// Runs after the cell is committed, with the field of the column. In it moveFocus(),
+    /// stayHere() and setCurrentField() hold instead of the move to the next column.
+    void setColumnEnterHandler(std::function<void(const QString &field)> handler);
+    /// Up or Down on a row that is open for edit, with no list open; without a handler such keys do
+    /// nothing there.
+    void setArrowCancelHandler(Handler handler);
+    void setEscapeHandler(Handler handler);
+    void setDoubleClickHandler(Handler handler);
+    /// The colour of a cell by its row; an invalid colour leaves the default.
+    void setRowColor(std::function<QColor(int row)> color);
+
+    /// Row open for edit: the current row is pinned and its editable columns take input.
+    void setRowEdit(bool on);
+    bool rowEdit() const { return rowEdit_; }
+    /// Whole rows are marked rather than the cell.
+    void setRowSelection(bool on);
+
+    int currentRow() const;
+    void setCurrentRow(int row);
+    QString currentField() const;
+    /// Moves to the column in the current row (the first row if there is none).
+    void setCurrentField(const QString &field);
+    /// The raw value of a field in the current row; invalid for none.
+    QVariant currentValue(const QString &field) const;
+    void setColumnVisible(const QString &field, bool visible);
+    void setColumnTitle(const QString &field, const QString &title);
+    void setColumnEditable(const QString &field, bool editable);
+    void setLookup(const QString &field, const LookupSource &source);
+
+    /// Puts the text of an open cell editor into the model and closes it. False if the model
+    /// refused: the failure was shown and the editor is still open.
+    bool commitEditor();
+    void cancelEditor();
+    bool editorOpen() const;
+    bool listOpen() const;
+    void openList();
+
+    /// The sum of a field over all rows that the model has handed out; NULL counts as nothing.
+    double sum(const QString &field) const;
+
+    /// A line of filters under the header; empty filters let all rows through. Rows keep the
+    /// numbers of the model everywhere in this class.
+    void setFiltering(bool on);
+    bool filtering() const { return filtering_; }
+    /// Header clicks sort the shown rows; off unless told, where an order is given.
+    void setSortable(bool on);
+
+    void setHeaderColor(const QColor &background, const QColor &text);
+    void setSelectionColor(const QColor &background, const QColor &text);
+    void setAlternateColor(const QColor &background);
+
+    bool commit() override { return commitEditor(); }
+    void clearField() override {}
+    void setFieldReadOnly(bool readOnly) override;
+
+signals:
+    void currentRowChanged(int row);
+    void currentFieldChanged(const QString &field);
+    /// The user picked `sourceRow` of the list of a look-up column; the cell has its value.
+    void closedUp(const QString &field, int sourceRow);
+    /// A text typed into a look-up column was looked up: its row, or -1 and the cell is NULL.
+    void resolved(const QString &field, int sourceRow);
+    void cellEdited(const QString &field);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void updateGeometries() override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    QSize sizeHint() const override;
+
+private:
+    friend class GridDelegate;
+    friend class GridFooter;
+    friend class GridFilterLine;
+    struct State;
+    State *state() const { return state_.get(); }
+
+    std::unique_ptr<State> state_;
+    bool rowEdit_ = false;
+    bool filtering_ = false;
+
+public:
+    ~DataGrid() override;
+};
+
+}  // namespace kaldo

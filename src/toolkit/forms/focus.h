@@ -1,0 +1,28 @@
+#pragma once
+
+class QWidget;
+
+namespace kaldo {
+
+/// Puts the focus on a widget of its window when the handler that runs now has returned, or at the
+/// next turn of the event loop outside of handlers. The last request of a window wins. A widget
+/// that is then gone, hidden or disabled gets nothing, and the focus stays.
+///
+/// The way for all handlers to move the focus: what the handler still enables, hides or reloads
+/// after the call is settled before the focus arrives.
+void moveFocus(QWidget *widget);
+
+/// Within an enter handler: Enter does not move on. Overrides earlier moveFocus() calls.
+void stayHere();
+
+/// Makes a button the way out of a form: going to it runs no leave handler, since one who cancels
+/// needs no advice on the field that he leaves. If the focus then goes back to a field without the
+/// button being pressed, the leave handler that is owed runs.
+void markAsEscape(QWidget *button);
+bool isEscape(const QWidget *widget);
+
+/// The next or previous enabled, visible widget of the window that takes the focus by Tab; null if
+/// there is no other. Widgets inside `from` are passed over.
+QWidget *nextInTabOrder(QWidget *from, bool forward = true);
+
+}  // namespace kaldo

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "toolkit/forms/field.h"
+
+#include <QLineEdit>
+
+namespace kaldo {
+
+/// A one-line field. Widths are characters (code points): typing stops there and pasted text is
+/// cut there; line breaks and other control characters become blanks.
+class LineField : public QLineEdit, public Field {
+    Q_OBJECT
+
+public:
+    explicit LineField(QWidget *parent = nullptr);
+
+    /// Characters that fit; 0 for no limit. Also sizes the field unless setShownCharacters() is
+    /// used.
+    void setCharacters(int characters);
+    int characters() const { return width_; }
+    /// Characters that are visible without scrolling.
+    void setShownCharacters(int characters);
+
+    void clearField() override { clear(); }
+    void setFieldReadOnly(bool readOnly) override;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    /// What of the text may stand; called for every change, typed, pasted or set. `position` is the
+    /// cursor and may be moved along.
+    virtual void normalise(QString *text, int *position) const;
+
+    void mousePressEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+
+private:
+    friend class LineRules;
+    int width_ = 0;
+    int shown_ = 0;
+};
+
+/// Free text, in capitals where told, or with a limited set of characters.
+class TextField : public LineField {
+    Q_OBJECT
+
+public:
+    explicit TextField(QWidget *parent = nullptr);
+
+    /// Letters turn to capitals as they are typed, pasted or set.
+    void setUpperCase(bool upper);
+    /// Only these characters can be typed; others are passed over. Empty lets all through.
+    void setAllowed(const QString &characters);
+    /// Digits, blank and minus, as the number fields of the notes take them.
+    void setDigitsOnly() { setAllowed(QStringLiteral("0123456789 -")); }
+    void setPassword(bool password) { setEchoMode(password ? Password : Normal); }
+
+protected:
+    void normalise(QString *text, int *position) const override;
+
+private:
+    bool upper_ = false;
+    QString allowed_;
+};
+
+/// A whole number within limits. Letters can't be typed; a number outside is told through the hint
+/// beside the field, keeps the focus and the text.
+class NumberField : public LineField {
+    Q_OBJECT
+
+public:
+    explicit NumberField(QWidget *parent = nullptr);
+
+    void setRange(qint64 lowest, qint64 highest);
+    /// The number typed; 0 for an empty or unfinished text. hasValue() tells them apart.
+    qint64 value() const;
+    bool hasValue() const;
+    void setValue(qint64 value);
+    bool commit() override;
+
+protected:
+    void normalise(QString *text, int *position) const override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    qint64 lowest_ = -2147483647;
+    qint64 highest_ = 2147483647;
+};
+
+/// A text over a mask such as "(   )   -    ": a blank is a hole for one digit, all other
+/// characters stand. An empty field shows the mask while it has the focus.
+class MaskedField : public LineField {
+    Q_OBJECT
+
+public:
+    explicit MaskedField(QWidget *parent = nullptr);
+
+    void setMask(const QString &mask);
+    /// The digits alone; setText() takes digits or masked text.
+    QString digits() const;
+    bool isComplete() const;
+    /// The masked text, or empty when no digit stands.
+    QString maskedText() const;
+    void setMaskedText(const QString &text);
+    void clearField() override { setMaskedText({}); }
+
+protected:
+    void normalise(QString *text, int *position) const override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    QString filled(const QString &digits) const;
+    void show(const QString &digits, int digitsBeforeCursor);
+
+    QString mask_;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+
+namespace kaldo {
+
+/// Ended: the application came to its end while the question stood; neither yes nor no.
+enum class Answer { Yes, No, Ended };
+
+enum class MessageKind { Information, Warning, Error, Confirmation };
+
+/// The titles that boxes carry when none is told.
+QString defaultTitle(MessageKind kind);
+
+struct Message {
+    MessageKind kind = MessageKind::Information;
+    QString text;
+    QString title;
+};
+
+/// How screens talk to the user: modal boxes with literal texts. Tests replace it with a script.
+class Messages {
+public:
+    virtual ~Messages() = default;
+
+    void information(const QString &text, const QString &title = {});
+    void warning(const QString &text, const QString &title = {});
+    void error(const QString &text, const QString &title = {});
+    Answer confirm(const QString &text, const QString &title = {});
+
+protected:
+    /// Shows one box and returns when it is gone. For other kinds than Confirmation the answer is
+    /// not looked at.
+    virtual Answer show(const Message &message) = 0;
+};
+
+/// The boxes of the desktop: modal to the active window, "&Sí" and "&No" or "&Aceptar", Escape
+/// means no. A held or repeated Enter presses nothing. The dialog is called "messageBox", its text
+/// stands in the label "messageText", its buttons are "yesButton", "noButton", "okButton".
+class BoxMessages : public Messages {
+protected:
+    Answer show(const Message &message) override;
+};
+
+}  // namespace kaldo
