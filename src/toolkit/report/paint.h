@@ -4,7 +4,6 @@
 
 #include <QImage>
 
-class QIODevice;
 class QPainter;
 class QPrinter;
 
