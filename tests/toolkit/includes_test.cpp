@@ -46,10 +46,10 @@ struct Source {
 
 Source takeApart(const QString &text) {
     static const QRegularExpression token(
-        QStringLiteral(
-            R"re((?<comment>//[^\n]*|/\*.*?\*/))re"
-            R"re(|(?<raw>R"(?<tag>\w*)\((?<rawtext>.*?)\)\k<tag>"))re"
-            R"re(|"(?<text>(?:[^"\\\n]|\\.)*)"|(?<![0-9A-Fa-f])'(?:[^'\\\n]|\\.)+'|\s+|.)re"),
+        QStringLiteral(R"re((?<comment>//[^\n]*|/\*.*?\*/))re"
+                       R"re(|(?<raw>R"(?<tag>\w*)\((?<rawtext>.*?)\)\k<tag>"))re"
+                       R"re(|"(?<text>(?:[^"\\\n]|\\.)*)")re"
+                       R"re(|(?<![0-9A-Fa-f])'(?:[^'\\\n]|\\.)+'|\s+|.)re"),
         QRegularExpression::DotMatchesEverythingOption);
     Source source;
     bool joins = false;
