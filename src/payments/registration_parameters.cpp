@@ -191,7 +191,8 @@ Parameters generalDataParameters(const NoteDraft &draft, int folio) {
         {QStringLiteral("COLONIA"), empty},
         {QStringLiteral("CIUDAD"), empty},
         {QStringLiteral("COD_POSTAL"), QVariant()},
-        {QStringLiteral("FECHA_NAC"), asked ? QVariant(draft.fechaNac) : QVariant()},
+        {QStringLiteral("FECHA_NAC"),
+         asked && draft.fechaNac.isValid() ? QVariant(draft.fechaNac) : QVariant()},
     };
     for (const char *name :
          {"CURP", "ESTADOCIVIL", "TELEFONO1", "TELEFONO2", "MEDICO", "TELMEDICO", "EMERGENCIA",
