@@ -42,16 +42,16 @@ QString formatMoney(double pesos, MoneyMask mask) {
 
 QString formatMoney(Money amount, MoneyMask mask) {
     const qint64 count = amount.tenThousandths();
-    const quint64 magnitude = count < 0 ? 0 - static_cast<quint64>(count)
-                                        : static_cast<quint64>(count);
+    const quint64 magnitude =
+        count < 0 ? 0 - static_cast<quint64>(count) : static_cast<quint64>(count);
     const quint64 cents = (magnitude + 50) / 100;
     return masked(count < 0 && cents > 0, groupedDigits(cents, 2), mask);
 }
 
 QString formatMoneyFourDecimals(Money amount) {
     const qint64 count = amount.tenThousandths();
-    const quint64 magnitude = count < 0 ? 0 - static_cast<quint64>(count)
-                                        : static_cast<quint64>(count);
+    const quint64 magnitude =
+        count < 0 ? 0 - static_cast<quint64>(count) : static_cast<quint64>(count);
     return masked(count < 0, groupedDigits(magnitude, 4), MoneyMask::Tight);
 }
 
@@ -62,8 +62,8 @@ QString formatPlainNumber(double value) {
 }
 
 bool parseMoney(const QString &text, double *value) {
-    static const QRegularExpression shape(QStringLiteral(
-        R"(^\s*(-?)\s*\$?\s*(-?)((?:\d{1,3}(?:,\d{3})+|\d+)?(?:\.\d*)?)\s*$)"));
+    static const QRegularExpression shape(
+        QStringLiteral(R"(^\s*(-?)\s*\$?\s*(-?)((?:\d{1,3}(?:,\d{3})+|\d+)?(?:\.\d*)?)\s*$)"));
     const QRegularExpressionMatch match = shape.match(text);
     if (!match.hasMatch()) {
         return false;

@@ -1,0 +1,32 @@
+#include "data/data_module.h"
+
+namespace kaldo {
+
+std::unique_ptr<NamedQuery> DataModule::newQuery(const char *name) const {
+    auto query = std::make_unique<NamedQuery>(QueryDefinition{name, ""});
+    query->bindTo(*connection_);
+    return query;
+}
+
+void DataModule::bindAll(std::initializer_list<NamedQuery *> queries) {
+    for (NamedQuery *query : queries) {
+        query->bindTo(*connection_);
+        queries_.push_back(query);
+    }
+}
+
+void DataModule::bindAll(std::initializer_list<Procedure *> procedures) {
+    for (Procedure *procedure : procedures) {
+        procedure->bindTo(*connection_);
+        procedures_.push_back(procedure);
+    }
+}
+
+void DataModule::bindAll(std::initializer_list<Command *> commands) {
+    for (Command *command : commands) {
+        command->bindTo(*connection_);
+        commands_.push_back(command);
+    }
+}
+
+}  // namespace kaldo

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <stdexcept>
+
+namespace kaldo {
+
+/// What went wrong, as far as screens and tests tell failures apart.
+enum class DatabaseFailure {
+    Other,
+    CannotAttach,  ///< the file or the server isn't there, or refuses
+    FileInUse,     ///< another process holds the embedded database
+    ConnectionLost,
+    DuplicateKey,
+    LockTimeout,  ///< another station held the row for longer than the lock time-out
+    BadValue,     ///< a value that doesn't fit its parameter (SQL code -303)
+    Raised,       ///< a stored routine refused, with a text for the user
+};
+
+/// The one failure of the data layer: what the engine said, where, and a text for the user.
+class DatabaseError : public std::runtime_error {
+public:
+    struct Details {
+        DatabaseFailure failure = DatabaseFailure::Other;
+        QList<int> engineCodes;  ///< the engine's own codes, most specific first
+        int sqlCode = 0;
+        QString engineMessage;  ///< the engine's text, lines joined
+        QString connection;     ///< name of the connection: "FBOdonto"
+        QString statement;      ///< name of the query or routine, empty for an attach
+    };
+
+    /// `message` is shown as it stands.
+    DatabaseError(const QString &message, Details details);
+
+    const QString &message() const { return message_; }
+    const Details &details() const { return details_; }
+    DatabaseFailure failure() const { return details_.failure; }
+
+private:
+    QString message_;
+    Details details_;
+};
+
+}  // namespace kaldo

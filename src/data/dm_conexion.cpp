@@ -1,0 +1,130 @@
+#include "data/dm_conexion.h"
+
+#include <QDir>
+
+namespace kaldo {
+
+namespace {
+
+FirebirdLogin loginFrom(const IniFile &ini) {
+    FirebirdLogin login;
+    login.password = ini.value(QStringLiteral("Sql"), QStringLiteral("pass"), login.password);
+    return login;
+}
+
+}  // namespace
+
+DMConexion::DMConexion(const Installation &installation, const IniFile &ini)
+    : login_(loginFrom(ini)),
+      installation_(installation),
+      branch_(ini.value(QStringLiteral("Sql"), QStringLiteral("cliente"))),
+      informixServer_(ini.value(QStringLiteral("Sql"), QStringLiteral("servidor"))),
+      FBLocal(QStringLiteral("FBLocal"), login_),
+      FBOdonto(QStringLiteral("FBOdonto"), login_),
+      FBFinanzas(QStringLiteral("FBFinanzas"), login_),
+      FBEscolares(QStringLiteral("FBEscolares"), login_),
+      FBPosgrado(QStringLiteral("FBPosgrado"), login_),
+      FBCtrclinicas(QStringLiteral("FBCtrclinicas"), login_),
+      InfxOdonto(QStringLiteral("InfxOdonto")),
+      InfxFinanzas(QStringLiteral("InfxFinanzas")),
+      InfxEscolar(QStringLiteral("InfxEscolar")),
+      InfxPosgra(QStringLiteral("InfxPosgra")),
+      InfxCtrClinicas(QStringLiteral("InfxCtrClinicas")) {
+    const auto place = [&installation](const char *file) {
+        return installation.map(QStringLiteral("C:\\KALDO\\DataBase\\") +
+                                QString::fromLatin1(file));
+    };
+    FBLocal.setDatabase(place("BD_LOCAL.GDB"));
+    FBOdonto.setDatabase(place("BD_ODONTOLOGIA.GDB"));
+    FBFinanzas.setDatabase(place("BD_FINANZAS.GDB"));
+    FBEscolares.setDatabase(place("BD_ESCOLARES.GDB"));
+    FBPosgrado.setDatabase(place("BD_POSGRADO.GDB"));
+    FBCtrclinicas.setDatabase(place("BD_ANTERIOR.GDB"));
+}
+
+DMConexion::~DMConexion() {
+    if (branch_ == QLatin1String("Informix")) {
+        InfxOdonto.close();
+        InfxFinanzas.close();
+        InfxEscolar.close();
+        return;
+    }
+    FBOdonto.close();
+    FBFinanzas.close();
+    FBEscolares.close();
+    FBPosgrado.close();
+    FBCtrclinicas.close();
+    FBLocal.close();
+}
+
+void DMConexion::open() {
+    FBLocal.open();
+    if (branch_ == QLatin1String("Firebird")) {
+        const auto registry = FBLocal.select(
+            {QStringLiteral("Firebird1"), QStringLiteral("Select * from Firebird")}, {});
+        const auto &columns = registry->columns();
+        Row row;
+        while (registry->fetch(row)) {
+            QString base;
+            QString ruta;
+            for (std::size_t at = 0; at < columns.size(); ++at) {
+                if (columns[at].name == QLatin1String("BASE")) {
+                    base = row[at].toString();
+                } else if (columns[at].name == QLatin1String("RUTA")) {
+                    ruta = row[at].toString();
+                }
+            }
+            openRegistered(base, ruta);
+        }
+    } else if (branch_ == QLatin1String("Informix")) {
+        openInformix();
+    }
+}
+
+void DMConexion::openRegistered(const QString &base, const QString &ruta) {
+    FirebirdConnection *connection = nullptr;
+    if (base == QLatin1String("Odontologia")) {
+        connection = &FBOdonto;
+    } else if (base == QLatin1String("Finanzas")) {
+        connection = &FBFinanzas;
+    } else {
+        return;
+    }
+    connection->close();
+    connection->setDatabase(installation_.map(ruta));
+    connection->open();
+}
+
+void DMConexion::openInformix() {
+    const QString server = QLatin1String("Server=") + informixServer_;
+    const QString service = QStringLiteral("ODBCAdvanced=Odontologia");
+    InfxOdonto.addParameter(server);
+    InfxOdonto.addParameter(service);
+    InfxOdonto.open();
+    InfxFinanzas.addParameter(server);
+    InfxFinanzas.addParameter(service);
+    InfxFinanzas.open();
+    InfxEscolar.addParameter(server);
+    InfxFinanzas.addParameter(service);
+    InfxEscolar.open();
+}
+
+Connection &DMConexion::branch(FirebirdConnection &firebird, OdbcConnection &informix) {
+    if (branch_ == QLatin1String("Informix")) {
+        return informix;
+    }
+    return firebird;
+}
+
+std::vector<Connection *> DMConexion::all() {
+    return {&FBLocal,    &FBOdonto,     &FBFinanzas,  &FBEscolares, &FBPosgrado,     &FBCtrclinicas,
+            &InfxOdonto, &InfxFinanzas, &InfxEscolar, &InfxPosgra,  &InfxCtrClinicas};
+}
+
+void DMConexion::setSeam(Seam *seam) {
+    for (Connection *connection : all()) {
+        connection->setSeam(seam);
+    }
+}
+
+}  // namespace kaldo

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "data/firebird_connection.h"
+#include "data/odbc_connection.h"
+#include "toolkit/core/ini_file.h"
+#include "toolkit/core/installation.h"
+
+namespace kaldo {
+
+/// All connections of the station, by name. Created closed; open() connects those that the
+/// start-up needs, the others come up with the first statement that needs them. They are closed
+/// when this object is destroyed.
+class DMConexion {
+public:
+    DMConexion(const Installation &installation, const IniFile &ini);
+    ~DMConexion();
+    DMConexion(const DMConexion &) = delete;
+    DMConexion &operator=(const DMConexion &) = delete;
+
+    /// Opens the local registry, and what it names, in the order of its rows. The first failure
+    /// ends the opening and is thrown; what got connected stays so.
+    void open();
+
+    /// The connection of the station's branch: `firebird` unless the ini file says "Informix".
+    Connection &branch(FirebirdConnection &firebird, OdbcConnection &informix);
+
+    std::vector<Connection *> all();
+    /// The same seam for every connection; null to take it away.
+    void setSeam(Seam *seam);
+
+private:
+    FirebirdLogin login_;
+    const Installation &installation_;
+    QString branch_;
+    QString informixServer_;
+
+public:
+    FirebirdConnection FBLocal;
+    FirebirdConnection FBOdonto;
+    FirebirdConnection FBFinanzas;
+    FirebirdConnection FBEscolares;
+    FirebirdConnection FBPosgrado;
+    FirebirdConnection FBCtrclinicas;
+    OdbcConnection InfxOdonto;
+    OdbcConnection InfxFinanzas;
+    OdbcConnection InfxEscolar;
+    OdbcConnection InfxPosgra;
+    OdbcConnection InfxCtrClinicas;
+
+private:
+    void openRegistered(const QString &base, const QString &ruta);
+    void openInformix();
+};
+
+}  // namespace kaldo

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "data/data_module.h"
+#include "data/dm_conexion.h"
+
+namespace kaldo {
+
+/// The cash desks' queries: price list, notes and their routines, the cash cut. Always bound to
+/// FBOdonto, in both branches.
+class DMIngresosCaja final : public DataModule {
+public:
+    explicit DMIngresosCaja(DMConexion &connections);
+
+    // Desk and rate
+    NamedQuery DatosCaja;
+    NamedQuery DatosCaja1;
+    NamedQuery DatosCajaUsuario;  ///< the desk of the user who logs in; DatosCaja1 stays closed
+    NamedQuery TipoCambio;
+    Command CambiaPass;
+    Command UDatosCaja;
+    Command FolioNota;
+
+    // The note's lines and its payer
+    NamedQuery ListaPrecios;
+    NamedQuery ListaPrecios1;
+    NamedQuery Clasifservicios;
+    NamedQuery Prestaciones1;
+    NamedQuery PrestacionSB;
+    NamedQuery consulta_empleado_p;
+    NamedQuery verifica_pagodetratamiento_p;
+
+    // Registered notes
+    NamedQuery Ticket;
+    NamedQuery RegistroVtas;
+    NamedQuery FormaPago1;
+    NamedQuery VtasContado;
+    NamedQuery PagosOdontologia1;
+    NamedQuery UltimaNota;
+
+    // Cash cut
+    NamedQuery Qry405;
+    NamedQuery Qry405_2;
+    NamedQuery Qry405_3;
+    NamedQuery Qry405_4;
+    NamedQuery Qry405_5;
+    NamedQuery Qry405_10;
+    NamedQuery CorteDetallado;
+    NamedQuery Totales;
+    NamedQuery ConsultaDolares;
+    NamedQuery Pesos;
+    NamedQuery CorteBancario;
+    NamedQuery PagoAnticipo;
+    NamedQuery SaldoPaciente;
+
+    // Routines of a note
+    Procedure registra_pago_odontologia_p;
+    Procedure sp_registrametodopago;
+    Procedure spinsdetalle;
+    Procedure registra_historicodontologia_p;
+    Procedure registraiva;
+    Procedure BorrarDetalleVtas;
+    Procedure SP550;
+    Procedure CompletaCorteBancario;
+};
+
+}  // namespace kaldo

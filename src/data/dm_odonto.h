@@ -1,0 +1,60 @@
+#pragma once
+
+#include "data/data_module.h"
+#include "data/dm_conexion.h"
+#include "data/options.h"
+#include "data/session.h"
+
+namespace kaldo {
+
+/// The clinic's queries: users and rights, centres, admissions, dossiers and their routines.
+class DMOdonto final : public DataModule {
+public:
+    DMOdonto(DMConexion &connections, const Session &session, const Options &options);
+
+    // Users and rights
+    NamedQuery ControlUsuarios;
+    NamedQuery ControlUsuarios1;
+    NamedQuery ControlUsuarios2;
+    NamedQuery Usuarios_Mant1;
+    Command CambiaPass;
+
+    // Control, rate, centres
+    NamedQuery Control;
+    NamedQuery ControlExpediente;
+    NamedQuery ControlExpedientes;
+    NamedQuery TipoCambio1;
+    NamedQuery CtroAtencion1;
+    NamedQuery CtroAtencion4;
+    NamedQuery CtroAtencionF;
+    NamedQuery est_caja;
+
+    // The note's identification
+    NamedQuery serviciosxctros;
+    NamedQuery AreaAtencion;
+    NamedQuery CargarExp;
+    NamedQuery AdmisionNota;
+
+    // Routines of admissions and dossiers
+    Procedure registra_admision_p;
+    Procedure registra_datosgenerales_p;
+    Procedure registra_antecedentes_p;
+    Procedure BorrarAdmision;
+    Procedure BorrarExpediente;
+
+    /// Folio of the next admission, as FolioAdm read it last.
+    int FolioAdmision = 0;
+    /// Number of the next dossier in its printed form, at most 8 characters, and its counter, as
+    /// FolioExp read them last.
+    FixedText<8> NumExpediente;
+    int ConsecExpediente = 0;
+
+    void FolioAdm();
+    void FolioExp();
+
+private:
+    const Session &session_;
+    const Options &options_;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QTime>
+
+#include "toolkit/core/ini_file.h"
+
+namespace kaldo {
+
+enum class Sector { None = -1, Empresarial = 0, Educativo = 1, Institucional = 2 };
+
+/// The live copy of all options, filled once from the ini file when the control panel is created
+/// and changed only by its screen. The comments name the keys.
+struct Options {
+    // [Cliente]
+    QString NombreCliente;      ///< cliente: client code
+    QString NombreInstitucion;  ///< nombre: "Nombre del Cliente" of the reports
+    QString Iniciales;          ///< iniciales; nombre stands in its place when empty
+    QString Facultad;           ///< facultad: "Facultad o Clinica", second heading of the reports
+    QString Clinica;            ///< clinica: "Nombre de la Clinica"
+    QString ImgEmpresa;         ///< img_empresa: path of the reports' logo
+    QString ImgEmpresa1;        ///< img_empresa1: path of the faculty's logo
+    Sector sector = Sector::None;
+    QString Rfc;
+    QString Direccion;
+    QString Colonia;
+    QString CiudadFiscal;
+    int EstadoFiscal = -1;
+    QString Pais;
+    QString CodigoPostal;
+    QString Telefono;
+    QString Correo;
+    QString Fondo;
+    QString FuenteFinanciamiento;
+    bool TitulosMayusculas = false;  ///< maysucula
+
+    // [Usuario], [Sistema], [Ambiente], [Ayuda]
+    QString Usuario;
+    QString Ciudad;
+    int Estado = -1;  ///< list index; the key holds it plus one
+    bool CambiarPass = false;
+    QString SkinName;
+    QString Skin;
+    QString ArchivoAyuda;
+
+    // [Equipo]
+    bool ApagarSistema = false;
+    QTime HoraApagar;
+    bool BuscarActualizaciones = false;
+    bool GenerarEstadisticas = false;
+
+    // [Admisiones]
+    QString FechaBusquedaAdmisiones;  ///< text in the machine's short date format
+    int DiasBusqueda = 0;
+    bool AlumnoCanalizado = false;
+    int Consentimiento = -1;
+    bool AdmisionesOtrosCentros = false;
+    bool SaltarAdmision = false;
+    bool AdmisionesHoy = false;
+    bool AdmisionesConExpediente = false;
+    bool AdmisionesAutorizadas = false;
+
+    // [Expedientes]
+    bool ExpedienteUniversal = false;      ///< controlexp
+    bool GenerarExpediente = false;        ///< guardar
+    bool CapturarSaldos = false;           ///< saldo
+    bool ExpedientesOtrosCentros = false;  ///< verexp
+    bool ValidarEdad = false;
+    bool ActivarPrestamo = false;
+    int ExpedientesPorAlumno = 0;
+    bool SistemaAnterior = false;
+    bool ActualizarLista = false;
+    QString FechaBusquedaExpedientes;  ///< text in the machine's short date format
+    QTime IntervaloLista;
+
+    // [Impresiones], [Contabilidad]
+    int SegundosDuplicado = 0;
+    bool DesactivarDuplicados = false;
+    bool PreliminarNotas = false;
+    bool PreliminarHojas = false;
+    bool ContabilidadGubernamental = false;
+    bool CortesBancarios = false;
+    bool GenerarPolizas = false;  ///< read from prelimipolizasnar_hojas
+
+    /// Reads every key in the order of the sections. A value that must be a whole number or an
+    /// hour and isn't throws (std::invalid_argument, Spanish text); what stands before it in the
+    /// order has been read, the rest keeps what it held.
+    void load(const IniFile &ini);
+
+    /// "Fecha Inicial de Busqueda." of the dossiers as a date; an invalid date where it is none.
+    QDate fechaExpedientes() const;
+};
+
+/// A date as the options keep it: dd/MM/yyyy.
+QDate parseShortDate(const QString &text);
+
+}  // namespace kaldo

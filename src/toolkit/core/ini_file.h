@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace kaldo {
+
+/// A plain ini file: sections in square brackets, lines of key and value. Sections and keys are
+/// compared without regard to case; backslashes, commas and quotes stand as they are; lines that
+/// are neither (comments, blanks) survive a write untouched.
+///
+/// A file that is missing or can't be read is an empty one. Text that is no UTF-8 is taken as
+/// Latin-1, a byte-order mark is passed over, and a binary file reads as far as its lines make
+/// sense. A write goes straight to the file, replacing it whole or not at all.
+class IniFile {
+public:
+    explicit IniFile(QString path);
+
+    const QString &path() const { return path_; }
+
+    QString value(const QString &section, const QString &key,
+                  const QString &defaultValue = QString()) const;
+    /// "S", exactly.
+    bool isYes(const QString &section, const QString &key) const;
+    /// Throws std::invalid_argument with a Spanish text when the value is no 32-bit integer; an
+    /// absent key counts as an empty value.
+    int integer(const QString &section, const QString &key) const;
+
+    /// Writes through to the file. Throws std::runtime_error with a Spanish text when the file
+    /// can't be written; the value is then unchanged.
+    void setValue(const QString &section, const QString &key, const QString &value);
+
+private:
+    qsizetype sectionLine(const QString &section) const;
+    qsizetype keyLine(qsizetype sectionLine, const QString &key) const;
+    void write(const QStringList &lines) const;
+
+    QString path_;
+    QStringList lines_;
+};
+
+}  // namespace kaldo

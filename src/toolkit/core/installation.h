@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace kaldo {
+
+/// Where the program is installed, and the one place that knows how a path of the installation is
+/// found on this machine.
+class Installation {
+public:
+    explicit Installation(QString root);
+
+    /// The root of this run: `--root DIR` of the arguments, else $KALDO_ROOT, else C:\KALDO on
+    /// Windows and the user's data folder elsewhere.
+    static QString rootFromEnvironment(const QStringList &arguments);
+
+    const QString &root() const { return root_; }
+
+    /// Maps a path that is written with the installation's fixed root ("C:\KALDO\Ini\kaldo.ini",
+    /// with either slash, in any case) to this machine. Below the root each folder and file is
+    /// found without regard to letter case; parts that don't exist stay as they are written.
+    /// Any other path is given back as it is.
+    QString map(const QString &path) const;
+
+private:
+    QString root_;
+};
+
+}  // namespace kaldo
