@@ -70,8 +70,9 @@ public:
 
 private:
     QString printToFolder(const Document &document, const QString &title) const;
-    bool printAsking(QWidget *parent, const Document &document, const QString &title, int printer);
-    void saveAsking(QWidget *parent, const Document &document, const QString &title);
+    QString printAsking(QWidget *parent, const Document &document, const QString &title,
+                        int printerIndex);
+    QString saveAsking(QWidget *parent, const Document &document, const QString &title);
 
     QString pdfFolder_;
     PrintingHost host_;

@@ -45,9 +45,12 @@ QStringList wrapped(const QString &paragraph, double width, const QFont &font, W
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
+        // The blanks at a break belong to neither line, or the next one would look indented.
         QString text = paragraph.mid(line.textStart(), line.textLength());
         while (text.endsWith(QLatin1Char(' ')))
             text.chop(1);
+        while (!lines.isEmpty() && text.startsWith(QLatin1Char(' ')))
+            text.remove(0, 1);
         lines << text;
     }
     layout.endLayout();
