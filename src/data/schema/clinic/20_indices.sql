@@ -19,7 +19,9 @@ create index ix_datosgenerales_nombre on datosgenerales (paterno, materno, pacie
 
 create index ix_expedientes_numero on expedientes (expediente);
 create index ix_expedientes_centro on expedientes (centro, expediente);
-create index ix_expedientes_fecha on expedientes (centro, fecha_ap);
+-- Dossiers of a centre or campus, newest first; labels of a day.
+create descending index ix_expedientes_fecha on expedientes (centro, fecha_ap);
+create descending index ix_expedientes_campus on expedientes (campus, fecha_ap);
 create index ix_expedientes_folio on expedientes (folio);
 create index ix_expedientes_nota on expedientes (num_caja, nota_vta);
 
