@@ -93,6 +93,10 @@ void PageView::paintEvent(QPaintEvent *) {
     if (document_.pages.empty())
         return;
     QPainter painter(viewport());
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    }
     const QSizeF size = pageSize();
     const QSize room = viewport()->size();
     const double x = std::max<double>(gap, (room.width() - size.width()) / 2.0);
@@ -110,6 +114,16 @@ void PageView::paintEvent(QPaintEvent *) {
 
 void PageView::resizeEvent(QResizeEvent *) {
     updateScrollBars();
+}
+
+void PageView::focusInEvent(QFocusEvent *event) {
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void PageView::focusOutEvent(QFocusEvent *event) {
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
 }
 
 bool PageView::turn(int pages) {

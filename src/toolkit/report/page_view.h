@@ -27,6 +27,8 @@ public:
     double percent() const;
     void setPercent(double percent);
 
+    void scrollToEnd();
+
 signals:
     /// The user wants to see another page (from 0, always one that exists).
     void pageWanted(int page, bool atItsEnd);
@@ -35,14 +37,13 @@ signals:
     /// The size on screen changed: by setPercent, or because the window did.
     void percentChanged();
 
-public:
-    void scrollToEnd();
-
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     double scale() const;

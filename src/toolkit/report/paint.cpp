@@ -2,6 +2,7 @@
 
 #include "toolkit/report/text_shape.h"
 
+#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -149,6 +150,10 @@ void writePdf(const Document &document, const QString &path, const QString &titl
         throw PrintError(QStringLiteral("No se pudo escribir el archivo \"%1\": %2")
                              .arg(path, file.errorString()));
     };
+    // A device must not be replaced by a file of its name.
+    const QFileInfo standing(path);
+    if (standing.exists() && !standing.isFile())
+        throw PrintError(QStringLiteral("\"%1\" no es un archivo.").arg(path));
     if (!file.open(QIODevice::WriteOnly))
         fail();
     {

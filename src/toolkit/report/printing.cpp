@@ -22,12 +22,12 @@ namespace {
 /// A title as part of a file name on every platform.
 QString fileName(const QString &title) {
     QString result;
-    for (const QChar character : title.simplified()) {
+    for (const QChar character : title) {
         const bool plain = character.isLetterOrNumber() || character == QLatin1Char('-') ||
-                           character == QLatin1Char(' ') || character == QLatin1Char('_');
-        result += plain ? character : QLatin1Char('-');
+                           character == QLatin1Char('_');
+        result += plain ? character : QChar(QLatin1Char(' '));
     }
-    result = result.left(80).trimmed();
+    result = result.simplified().left(80).trimmed();
     return result.isEmpty() ? QStringLiteral("Documento") : result;
 }
 
