@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/context.h"
+#include "payments/note_draft.h"
+#include "payments/payment.h"
+#include "payments/registration_parameters.h"
+
+namespace kaldo {
+
+class ReceiptPrinter;
+
+/// Makes a paid note a record: the routines in their settled order, the receipt, the counter of the
+/// desk. Each routine's work stands as it returns, so that a failure leaves a half-written note,
+/// which "Recibos Incompletos" repairs.
+///
+/// Lives as long as the screen that registers: the municipality of a note is that of the one before
+/// where its own desk gives none.
+class Registration {
+public:
+    Registration(Context &context, ReceiptPrinter &receipt)
+        : context_(context), receipt_(receipt) {}
+
+    /// Registers, prints and tells the cashier, also of a failure; throws nothing. `DatosCaja1`
+    /// must be open on the session's desk. True if all of it was done. The screen resets itself
+    /// afterwards in both cases.
+    bool registrar(const NoteDraft &draft, const Payment &payment) noexcept;
+
+private:
+    void write(const NoteDraft &draft, const Payment &payment);
+    void Mpio();
+    void RegistrarNota(const NoteDraft &draft, const Payment &payment);
+    void registrarAdmision(const NoteDraft &draft);
+    void MetodoPago(const NoteDraft &draft, const Payment &payment);
+    void Detallepago(const NoteDraft &draft, const Payment &payment);
+    void RegistrarIva(const NoteDraft &draft);
+    void Folio();
+    RegistrationContext sessionValues() const;
+
+    Context &context_;
+    ReceiptPrinter &receipt_;
+    QString mpioNota_;
+};
+
+}  // namespace kaldo
