@@ -196,7 +196,7 @@ begin
        set d.importeiva = round(d.cant * d.precio * (1 - coalesce(d.porc_desc, 0) / 100e0)
                                 * coalesce(d.porcentajeiva, 0)
                                 / (100e0 + coalesce(d.porcentajeiva, 0)), 4),
-           d.tipofactoriva = iif(coalesce(d.porcentajeiva, 0) > 0, 'Tasa', 'Exento')
+           d.tipofactoriva = trim(iif(coalesce(d.porcentajeiva, 0) > 0, 'Tasa', 'Exento'))
      where d.num_caja = :caja
        and d.nota_vta = :nota;
 end^

@@ -91,7 +91,7 @@ returns (
 as
 begin
     for select e.nombre, e.cve_unida, e.descripcion, e.tipo_empleado, e.vigente,
-               iif(e.vigente = '1', 'EMPLEADO VIGENTE', 'EMPLEADO NO VIGENTE')
+               trim(iif(e.vigente = '1', 'EMPLEADO VIGENTE', 'EMPLEADO NO VIGENTE'))
           from empleados e
          where e.num_empl = :p_numempl
           into :nombre, :cve_unida, :descripcion, :tipo_empleado, :vigente, :mensaje

@@ -77,7 +77,7 @@ begin
           join formapago f on f.num_caja = n.num_caja and f.nota_vta = n.nota_vta)
     select :caja, :fecha, :usr, coalesce(p.bancoid, 0), coalesce(b.subsubctaid, 0),
            b.nomenclatura, b.descripcion, p.ftefto,
-           iif(p.fondo similar to '[0-9]+', p.fondo, 0), p.concepto, sum(p.importe), c.prog_pol
+           iif(p.fondo similar to '[0-9]+', p.fondo, 0), trim(p.concepto), sum(p.importe), c.prog_pol
       from pagos p
       left join cg_banco b on b.bancoid = p.bancoid
       left join datoscaja c on c.num_caja = :caja

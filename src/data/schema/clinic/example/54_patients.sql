@@ -21,8 +21,8 @@ begin
         :centro);
     execute procedure kdregistra_datosgenerales_p(
         :folio, :paterno, :materno, :paciente, :edad, :sexo,
-        iif(:nacimiento is null, '', iif(:edad <= 13, 'I', 'A')), 'CALLE SEXTA 215', 'CENTRO',
-        'VALLE NORTE', 21100, :nacimiento, '', 'SOLTERO', '(686)555-0111', '', '', '', '', '', '',
+        trim(iif(:nacimiento is null, '', iif(:edad <= 13, 'I', 'A'))), 'CALLE SEXTA 215',
+        'CENTRO', 'VALLE NORTE', 21100, :nacimiento, '', 'SOLTERO', '(686)555-0111', '', '', '', '', '', '',
         '', '', '6', '', '1', '', '3', '',
         trim(trim(:paterno || ' ' || :materno) || ' ' || :paciente));
     insert into antecedentes (folio, heredo_fam, nopatologicos, alergias, lugar)

@@ -10,7 +10,7 @@ begin
                         vigencia_desc)
     values (:matricula, :programa_clave, :nombre, :paterno, :materno, '2018-2', :programa,
             :unidad_clave, :unidad_desc, :vigencia_clave,
-            iif(:vigencia_clave = 1, 'ACTIVO', 'BAJA TEMPORAL'));
+            trim(iif(:vigencia_clave = 1, 'ACTIVO', 'BAJA TEMPORAL')));
 end^
 set term ; ^
 commit;
