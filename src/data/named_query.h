@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QDate>
 #include <QHash>
 #include <QStringList>
 
@@ -47,6 +48,9 @@ public:
     const QString &name() const { return name_; }
     /// The text that runs: the definition's, or the one that was last set at run time.
     Statement statement() const { return {name_, text_}; }
+
+    const QString &updateTable() const { return table_; }
+    const QStringList &updateKeys() const { return keys_; }
 
     void bindTo(Connection &connection) { connection_ = &connection; }
     Connection &connection() const { return *connection_; }

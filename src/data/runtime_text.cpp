@@ -35,6 +35,13 @@ QString RuntimeText::odbc() const {
     });
 }
 
+qint64 execute(Connection &connection, const QString &name, const RuntimeText &text) {
+    if (connection.dialect() == Dialect::Firebird) {
+        return connection.execute({name, text.firebird()}, text.values());
+    }
+    return connection.execute({name, text.odbc()}, {});
+}
+
 QString odbcLiteral(const QVariant &value) {
     if (!value.isValid()) {
         return QStringLiteral("null");

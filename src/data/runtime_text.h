@@ -7,6 +7,8 @@
 
 namespace kaldo {
 
+class Connection;
+
 /// An SQL text that a screen builds at run time: a list of lines, each with its Firebird form
 /// (named parameters) and, where it differs, an ODBC form of its own. Both forms name the same
 /// parameters; the ODBC text carries their values as literals between double quotes.
@@ -28,6 +30,10 @@ private:
     QStringList odbc_;
     Parameters values_;
 };
+
+/// Executes a text that delivers nothing, in the form that the connection wants; committed on
+/// return. The number of rows that it changed.
+qint64 execute(Connection &connection, const QString &name, const RuntimeText &text);
 
 /// A value as the ODBC form writes it.
 QString odbcLiteral(const QVariant &value);

@@ -1,0 +1,230 @@
+#include "data/firebird_connection.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include "data/database_error.h"
+#include "tests/support/test_installation.h"
+
+namespace kaldo::test {
+namespace {
+
+class FirebirdConnectionTest : public ::testing::Test {
+protected:
+    FirebirdConnectionTest() {
+        connection.setDatabase(files.database("BD_LOCAL.GDB"));
+        run(connection,
+            "create table cosas (id integer not null primary key, texto varchar(5), chico "
+            "smallint, numero double precision, fecha date, momento timestamp, fijo char(4), "
+            "dinero numeric(9,2))");
+    }
+
+    DatabaseError failureOf(const QString &text, const Parameters &values) {
+        try {
+            run(connection, text, values);
+        } catch (const DatabaseError &failure) {
+            return failure;
+        }
+        ADD_FAILURE() << "no failure: " << text.toStdString();
+        return DatabaseError({}, {});
+    }
+
+    TestInstallation files;
+    FirebirdConnection connection{QStringLiteral("FBLocal"), {}};
+};
+
+TEST_F(FirebirdConnectionTest, ValuesComeBackAsTheyWentIn) {
+    const QDateTime moment(QDate(2024, 2, 29), QTime(23, 59, 58));
+    run(connection, "insert into cosas values (:id, :t, :c, :n, :f, :m, :x, :d)",
+        {{"ID", 2147483647},
+         {"t", QStringLiteral("ñ\"%'😀")},
+         {"c", -32768},
+         {"n", 19.5},
+         {"f", QDate(1899, 12, 30)},
+         {"m", moment},
+         {"x", "ab"},
+         {"d", 1234.56}});
+    const auto rows = rowsOf(connection, "select * from cosas");
+    ASSERT_EQ(rows.size(), 1);
+    EXPECT_EQ(rows[0][0].toInt(), 2147483647);
+    EXPECT_EQ(rows[0][1].toString(), QStringLiteral("ñ\"%'😀"));
+    EXPECT_EQ(rows[0][2].toInt(), -32768);
+    EXPECT_EQ(rows[0][3].toDouble(), 19.5);
+    EXPECT_EQ(rows[0][4].toDate(), QDate(1899, 12, 30));
+    EXPECT_EQ(rows[0][5].toDateTime(), moment);
+    EXPECT_EQ(rows[0][6].toString(), "ab") << "no padding";
+    EXPECT_EQ(rows[0][7].toDouble(), 1234.56);
+}
+
+TEST_F(FirebirdConnectionTest, NullIsNotEmptyAndParametersMayRepeat) {
+    run(connection, "insert into cosas (id, texto) values (1, :t)", {{"t", QString("")}});
+    run(connection, "insert into cosas (id, texto) values (2, :t)", {{"t", QVariant()}});
+    const auto rows = rowsOf(connection,
+                             "select texto from cosas where id in (:a, :b, :a) -- :no\n"
+                             "and ':no' <> :b order by id",
+                             {{"a", 1}, {"b", 2}});
+    ASSERT_EQ(rows.size(), 2);
+    EXPECT_TRUE(rows[0][0].isValid());
+    EXPECT_EQ(rows[0][0].toString(), "");
+    EXPECT_FALSE(rows[1][0].isValid());
+}
+
+TEST_F(FirebirdConnectionTest, AValueThatDoesNotFitIsRefusedAndNothingIsWritten) {
+    const QString insert =
+        "insert into cosas (id, texto, chico, numero, fecha) values "
+        "(:id, :t, :c, :n, :f)";
+    const Parameters good = {{"id", 1}, {"t", "abc"}, {"c", 1}, {"n", 1.0}, {"f", QDate()}};
+    const QList<std::pair<QString, QVariant>> bad = {
+        {"id", 2147483648LL}, {"id", 1.5}, {"id", "uno"},  {"id", ""}, {"t", "seis66"},
+        {"c", 32768},         {"c", ""},   {"n", "mucho"}, {"n", NAN}, {"f", "31/02/2024"}};
+    for (const auto &[name, value] : bad) {
+        Parameters values = good;
+        for (auto &[candidate, current] : values) {
+            current = candidate == name ? value : current;
+            if (!current.toDate().isValid() && candidate == "f" && name != "f") {
+                current = QVariant();
+            }
+        }
+        const DatabaseError failure = failureOf(insert, values);
+        EXPECT_EQ(failure.failure(), DatabaseFailure::BadValue) << name.toStdString();
+        EXPECT_EQ(failure.details().sqlCode, -303);
+    }
+    EXPECT_EQ(failureOf("delete from cosas where id = :id", {}).failure(),
+              DatabaseFailure::BadValue)
+        << "a missing parameter";
+    EXPECT_EQ(valueOf(connection, "select count(*) from cosas").toInt(), 0);
+}
+
+TEST_F(FirebirdConnectionTest, FailuresAreToldApart) {
+    run(connection, "insert into cosas (id) values (1)");
+    const DatabaseError twice = failureOf("insert into cosas (id) values (1)", {});
+    EXPECT_EQ(twice.failure(), DatabaseFailure::DuplicateKey);
+    EXPECT_EQ(twice.details().connection, "FBLocal");
+    EXPECT_FALSE(twice.details().engineMessage.isEmpty());
+    EXPECT_EQ(failureOf("select nada from cosas", {}).details().sqlCode, -206);
+    run(connection, "create exception negado 'No se puede.'");
+    EXPECT_EQ(failureOf("execute block as begin exception negado; end", {}).failure(),
+              DatabaseFailure::Raised);
+}
+
+TEST_F(FirebirdConnectionTest, AnAttachThatFailsTellsWhich) {
+    const auto failureOfAttach = [](const QString &path) {
+        FirebirdConnection other("FBOdonto", {});
+        other.setDatabase(path);
+        try {
+            other.open();
+        } catch (const DatabaseError &failure) {
+            EXPECT_TRUE(failure.message().contains("FBOdonto"));
+            EXPECT_FALSE(other.isOpen());
+            return failure.failure();
+        }
+        return DatabaseFailure::Other;
+    };
+    EXPECT_EQ(failureOfAttach(files.database("NO_EXISTE.GDB")), DatabaseFailure::CannotAttach);
+    QFile damaged(files.database("BD_FINANZAS.GDB"));
+    ASSERT_TRUE(damaged.open(QIODevice::ReadWrite));
+    damaged.write(QByteArray(8192, 'x'));
+    damaged.close();
+    EXPECT_EQ(failureOfAttach(damaged.fileName()), DatabaseFailure::CannotAttach);
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(failureOfAttach("localhost/39999:/no/hay/nadie"), DatabaseFailure::CannotAttach);
+    EXPECT_LT(timer.elapsed(), 2000) << "a server that isn't there is told at once";
+}
+
+TEST_F(FirebirdConnectionTest, ARowHeldByAnotherStationFailsAfterSeconds) {
+    run(connection, "insert into cosas (id) values (1)");
+    FirebirdConnection other("FBOtra", {});
+    other.setDatabase(files.database("BD_LOCAL.GDB"));
+
+    // The other station's transaction stays open between its execution and its commit.
+    struct Holding final : Seam {
+        std::function<void()> whileHeld;
+        void beforeCommit(const Execution &) override { whileHeld(); }
+    } holding;
+    QElapsedTimer timer;
+    timer.start();
+    holding.whileHeld = [this] {
+        EXPECT_EQ(failureOf("update cosas set chico=1 where id=1", {}).failure(),
+                  DatabaseFailure::LockTimeout);
+    };
+    other.setSeam(&holding);
+    run(other, "update cosas set chico=2 where id=1");
+    EXPECT_LT(timer.elapsed(), 8000);
+    EXPECT_EQ(valueOf(connection, "select chico from cosas").toInt(), 2);
+}
+
+TEST_F(FirebirdConnectionTest, TheSeamSeesAndStopsEachStep) {
+    struct Stopping final : Seam {
+        int executionToStop = 0;
+        int commitToStop = 0;
+        QStringList seen;
+        void beforeExecution(const Execution &execution) override {
+            seen += execution.name + (execution.writes ? " w" : " r");
+            if (execution.ordinal == executionToStop) {
+                throw std::runtime_error("stopped");
+            }
+        }
+        void beforeCommit(const Execution &execution) override {
+            if (execution.ordinal == commitToStop) {
+                throw std::runtime_error("stopped");
+            }
+        }
+    } seam;
+    seam.executionToStop = 2;
+    seam.commitToStop = 3;
+    connection.setSeam(&seam);
+    run(connection, "insert into cosas (id) values (1)");
+    EXPECT_THROW(run(connection, "insert into cosas (id) values (2)"), std::runtime_error);
+    EXPECT_THROW(run(connection, "insert into cosas (id) values (3)"), std::runtime_error);
+    EXPECT_EQ(valueOf(connection, "select count(*) from cosas").toInt(), 1);
+    EXPECT_EQ(seam.seen, QStringList({"check w", "check w", "check w", "check r"}));
+    connection.setSeam(nullptr);
+    run(connection, "insert into cosas (id) values (2)");
+    EXPECT_EQ(valueOf(connection, "select count(*) from cosas").toInt(), 2)
+        << "nothing of the stopped writes holds the row back";
+}
+
+TEST_F(FirebirdConnectionTest, AnOpenListNeitherBlocksNorOutlivesItsConnection) {
+    run(connection,
+        "insert into cosas (id) select row_number() over () - 1 from rdb$fields a, rdb$fields b "
+        "rows 3000");
+    auto list = connection.select({"lista", "select id from cosas order by id"}, {});
+    auto again = connection.select({"lista", "select id from cosas order by id"}, {});
+    Row row;
+    ASSERT_TRUE(list->fetch(row));
+    ASSERT_TRUE(again->fetch(row));
+    run(connection, "delete from cosas where id = 2999");
+    int count = 1;
+    while (list->fetch(row)) {
+        ++count;
+    }
+    EXPECT_GE(count, 2999);
+    EXPECT_FALSE(list->fetch(row));
+    connection.close();
+    EXPECT_THROW(again->fetch(row), DatabaseError);
+    EXPECT_EQ(valueOf(connection, "select count(*) from cosas").toInt(), 2999)
+        << "the connection opens again by itself";
+}
+
+TEST_F(FirebirdConnectionTest, ReadsSeeWhatAnotherConnectionHasCommitted) {
+    FirebirdConnection other("FBOtra", {});
+    other.setDatabase(files.database("BD_LOCAL.GDB"));
+    EXPECT_EQ(valueOf(connection, "select count(*) from cosas").toInt(), 0);
+    run(other, "insert into cosas (id) values (1)");
+    EXPECT_EQ(valueOf(connection, "select count(*) from cosas").toInt(), 1);
+}
+
+TEST_F(FirebirdConnectionTest, NumbersBecomeTextsWhereTheColumnIsText) {
+    run(connection, "insert into cosas (id, texto) values (1, :t)", {{"t", 17.0}});
+    run(connection, "insert into cosas (id, texto) values (12, :t)", {{"t", 4}});
+    EXPECT_EQ(valueOf(connection, "select texto from cosas where id=1").toString(), "17");
+    EXPECT_EQ(
+        rowsOf(connection, "select id from cosas where id starting with :c", {{"c", 1}}).size(), 2)
+        << "a prefix test on a number takes its text";
+}
+
+}  // namespace
+}  // namespace kaldo::test
