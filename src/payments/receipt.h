@@ -30,9 +30,9 @@ struct AccountMovement {
 
 /// What only some notes have; unset where the query behind it is closed or found nothing.
 struct ReceiptExtras {
-    std::optional<int> folioAdmision;  ///< of the admission that an 'AD' note created
-    std::optional<AccountMovement> edoctaSaldoAnt;
-    std::optional<AccountMovement> edoctaSaldoAnt1;
+    std::optional<int> folioAdmision{};  ///< of the admission that an 'AD' note created
+    std::optional<AccountMovement> edoctaSaldoAnt{};
+    std::optional<AccountMovement> edoctaSaldoAnt1{};
 };
 
 /// The station's share in a receipt.

@@ -23,7 +23,7 @@ public:
     /// Registers, prints and tells the cashier, also of a failure; throws nothing. `DatosCaja1`
     /// must be open on the session's desk. True if all of it was done. The screen resets itself
     /// afterwards in both cases.
-    bool registrar(const NoteDraft &draft, const Payment &payment) noexcept;
+    bool registrar(const NoteDraft &draft, const Payment &payment);
 
 private:
     void write(const NoteDraft &draft, const Payment &payment);

@@ -1,0 +1,105 @@
+#include "payments/registration.h"
+
+#include "payments/clinical_history.h"
+#include "payments/receipt_printer.h"
+
+namespace kaldo {
+
+bool Registration::registrar(const NoteDraft &draft, const Payment &payment) {
+    const QString title = QStringLiteral("Información");
+    try {
+        write(draft, payment);
+        receipt_.Ticket(draft, payment);
+        Folio();
+        receipt_.Recibos(draft);
+        context_.messages.information(
+            QStringLiteral("La información ha sido registrada correctamente, presione cualquier "
+                           "tecla para continuar."),
+            title);
+        if (context_.options.GenerarEstadisticas) {
+            context_.frame.refreshDeskFigures();
+        }
+        return true;
+    } catch (const std::exception &) {
+        // Whatever failed, the cashier's way out is the same one.
+        context_.messages.warning(
+            QStringLiteral("Ocurrió un error al tratar de registrar la información. Verifique "
+                           "Recibos Incompletos."),
+            title);
+        return false;
+    }
+}
+
+void Registration::write(const NoteDraft &draft, const Payment &payment) {
+    RegistrarNota(draft, payment);
+    MetodoPago(draft, payment);
+    Detallepago(draft, payment);
+    RegistrarIva(draft);
+}
+
+void Registration::Mpio() {
+    mpioNota_ = mpioOf(context_.caja.DatosCaja1.text(QStringLiteral("campus")), mpioNota_);
+}
+
+void Registration::RegistrarNota(const NoteDraft &draft, const Payment &payment) {
+    Mpio();
+    context_.caja.registra_pago_odontologia_p.execute(
+        noteParameters(draft, payment, sessionValues()));
+    if (createsAdmission(draft)) {
+        registrarAdmision(draft);
+    }
+}
+
+void Registration::registrarAdmision(const NoteDraft &draft) {
+    DMOdonto &odonto = context_.odonto;
+    odonto.FolioAdm();
+    const int folio = odonto.FolioAdmision;
+    odonto.registra_admision_p.execute(admissionParameters(draft, sessionValues(), folio));
+    odonto.registra_datosgenerales_p.execute(generalDataParameters(draft, folio));
+    odonto.registra_antecedentes_p.execute(emptyClinicalHistory(folio));
+}
+
+void Registration::MetodoPago(const NoteDraft &draft, const Payment &payment) {
+    context_.caja.sp_registrametodopago.execute(
+        methodOfPaymentParameters(draft, payment, sessionValues()));
+}
+
+void Registration::Detallepago(const NoteDraft &draft, const Payment &payment) {
+    const RegistrationContext values = sessionValues();
+    for (const NoteLine &line : draft.lines) {
+        context_.caja.spinsdetalle.execute(lineParameters(draft, payment, values, line));
+        if (draft.hasDossier()) {
+            context_.caja.registra_historicodontologia_p.execute(
+                historyParameters(draft, values, line));
+        }
+    }
+    context_.finanzas.inserta_vw_recibopago.execute(financeParameters(draft, values));
+}
+
+void Registration::RegistrarIva(const NoteDraft &draft) {
+    context_.caja.registraiva.execute(taxParameters(draft, sessionValues()));
+}
+
+void Registration::Folio() {
+    NamedQuery &desk = context_.caja.DatosCaja1;
+    const QString nota = QStringLiteral("nota_vta");
+    desk.edit();
+    desk.set(nota, desk.integer(nota) + 1);
+    desk.post();
+    desk.apply();
+}
+
+RegistrationContext Registration::sessionValues() const {
+    const Session &session = context_.session;
+    RegistrationContext values;
+    values.numCaja = session.NumCaja;
+    values.usuario = session.Usuario;
+    values.turno = session.Turno;
+    values.centro = session.Centro;
+    values.origen2 = session.Origen2;
+    values.mpioNota = mpioNota_;
+    values.today = context_.clock.today();
+    return values;
+}
+
+}  // namespace kaldo
