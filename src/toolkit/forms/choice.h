@@ -33,14 +33,14 @@ public:
     void hidePopup() override;
 
 signals:
-    /// The user picked an item: by Enter or a click in the list, or by Enter after choosing with
-    /// the keys. Also when it is the same item again.
+    /// The user picked an item: by Enter or a click in the list, or by Enter or leaving after
+    /// choosing with the keys. Also when it is the same item again.
     void closedUp();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     bool open_ = false;
@@ -63,6 +63,7 @@ public:
     /// The chosen button, or the first: where the focus goes.
     void focusChoice(Qt::FocusReason reason = Qt::OtherFocusReason);
     void setOptionEnabled(int index, bool enabled);
+    QStringList options() const;
 
     void clearField() override { setIndex(-1); }
     void setFieldReadOnly(bool readOnly) override;
@@ -71,6 +72,8 @@ signals:
     void clicked(int index);
 
 private:
+    void updateProxy();
+
     QButtonGroup *buttons_;
 };
 
@@ -108,6 +111,8 @@ private:
 
     bool upper_ = false;
     int width_ = 0;
+    int changedAt_ = 0;
+    int added_ = 0;
 };
 
 }  // namespace kaldo

@@ -26,7 +26,7 @@ public:
     /// Only these characters can be typed.
     GridColumn &allowed(const QString &characters);
     /// Cells are chosen from another model by a drop-down; a typed text is sought in the value
-    /// field, then by prefix in the display field.
+    /// field, then by prefix in the display field. The cell stores and shows the value field.
     GridColumn &lookup(LookupSource source);
     /// Sum of the column in the footer, under this mask.
     GridColumn &sum(CellMask mask = CellMask::MoneyTight);
@@ -66,13 +66,19 @@ class DataGrid : public QTableView, public Field {
 
 public:
     explicit DataGrid(QWidget *parent = nullptr);
+    ~DataGrid() override;
 
     void setColumns(const QList<GridColumn> &columns);
     void setModel(QAbstractItemModel *model) override;
 
+    /// The model that was set; the view itself shows it through the filter and the order chosen.
+    QAbstractItemModel *sourceModel() const;
+
     /// Runs after the cell is committed, with the field of the column. In it moveFocus(),
     /// stayHere() and setCurrentField() hold instead of the move to the next column.
     void setColumnEnterHandler(std::function<void(const QString &field)> handler);
+    /// The same for all columns alike.
+    void setEnterHandler(Handler handler);
     /// Up or Down on a row that is open for edit, with no list open; without a handler such keys do
     /// nothing there.
     void setArrowCancelHandler(Handler handler);
@@ -110,10 +116,10 @@ public:
     /// The sum of a field over all rows that the model has handed out; NULL counts as nothing.
     double sum(const QString &field) const;
 
-    /// A line of filters under the header; empty filters let all rows through. Rows keep the
-    /// numbers of the model everywhere in this class.
+    /// A line of filters under the titles, reached by Ctrl+F; empty ones let all rows through. Rows
+    /// keep the numbers of the model everywhere in this class.
     void setFiltering(bool on);
-    bool filtering() const { return filtering_; }
+    bool filtering() const;
     /// Header clicks sort the shown rows; off unless told, where an order is given.
     void setSortable(bool on);
 
@@ -139,25 +145,31 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void updateGeometries() override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     QSize sizeHint() const override;
 
 private:
     friend class GridDelegate;
     friend class GridFooter;
-    friend class GridFilterLine;
     struct State;
-    State *state() const { return state_.get(); }
+
+    void applyColumns();
+    void watchModel();
+    void sumsChanged();
+    void afterEnter();
+    bool arrowKey(QKeyEvent *event);
+    void nextColumn();
+    void copyRows() const;
+    bool store(QWidget *editor);
+    void pickFromList(const QString &field, int sourceRow);
+    void sortBy(int section);
+    int nextEditable(int section) const;
 
     std::unique_ptr<State> state_;
     bool rowEdit_ = false;
-    bool filtering_ = false;
-
-public:
-    ~DataGrid() override;
 };
 
 }  // namespace kaldo

@@ -4,7 +4,7 @@
 
 #include <QDate>
 
-class QCalendarWidget;
+#include <functional>
 
 namespace kaldo {
 
@@ -21,7 +21,7 @@ public:
     /// Invalid for an empty field and for a text that is no date.
     QDate date() const;
     void setDate(const QDate &date);
-    /// Digits of the year that are shown and read as the century of: 00-49 is 20xx, 50-99 is 19xx.
+    /// What the field reads; years of two digits are 2000 to 2049 and 1950 to 1999.
     static QDate parse(const QString &text);
 
     void setInvalidHandler(std::function<void(const QString &)> handler);
@@ -37,10 +37,9 @@ signals:
 protected:
     void normalise(QString *text, int *position) const override;
     void keyPressEvent(QKeyEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    bool settle();
+    void settle(const QDate &date);
 
     QDate settled_;
     std::function<void(const QString &)> invalid_;

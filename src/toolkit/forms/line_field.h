@@ -32,8 +32,8 @@ protected:
     /// cursor and may be moved along.
     virtual void normalise(QString *text, int *position) const;
 
-    void mousePressEvent(QMouseEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
+    /// Tells what is wrong with the text, in a hint under the field.
+    void complain(const QString &text);
 
 private:
     friend class LineRules;
@@ -81,7 +81,6 @@ public:
 
 protected:
     void normalise(QString *text, int *position) const override;
-    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     qint64 lowest_ = -2147483647;
@@ -97,25 +96,23 @@ public:
     explicit MaskedField(QWidget *parent = nullptr);
 
     void setMask(const QString &mask);
-    /// The digits alone; setText() takes digits or masked text.
+    /// The digits alone.
     QString digits() const;
     bool isComplete() const;
     /// The masked text, or empty when no digit stands.
     QString maskedText() const;
+    /// A text that does not fit the mask, from an older record, stands as it is until it is edited.
     void setMaskedText(const QString &text);
     void clearField() override { setMaskedText({}); }
 
 protected:
     void normalise(QString *text, int *position) const override;
-    void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    QString filled(const QString &digits) const;
-    void show(const QString &digits, int digitsBeforeCursor);
-
     QString mask_;
+    QString foreign_;
 };
 
 }  // namespace kaldo

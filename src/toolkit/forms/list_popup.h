@@ -5,9 +5,9 @@
 #include <QAbstractItemModel>
 #include <QFrame>
 #include <QPointer>
+#include <QVariant>
 
 class QLineEdit;
-class QSortFilterProxyModel;
 class QTableView;
 
 namespace kaldo {
@@ -55,6 +55,8 @@ public:
 
     void setSource(const LookupSource &source);
     void setFiltering(bool on);
+    /// The widget that the list opens under, where it is not the owner.
+    void setAnchor(QWidget *anchor) { anchor_ = anchor; }
     /// Below the owner, or above where the screen ends; `row` of the source is current, -1 for
     /// none.
     void open(int row);
@@ -70,22 +72,26 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
 
 private:
-    void pickCurrent();
+    void pick(const QModelIndex &index);
     void applyFilter();
+    void fetchRest();
+    void arrangeColumns();
     void place();
     bool handleKey(QKeyEvent *event);
+    bool typeAhead(const QKeyEvent &event);
 
-    QPointer<QWidget> owner_;
+    QPointer<QWidget> anchor_;
     LookupSource source_;
     QTableView *table_;
     QLineEdit *filter_;
     class ListFilter *proxy_;
     QString typed_;
-    bool settled_ = false;
 };
+
+/// For comparisons by people: capitals, accents aside.
+QString foldedText(const QString &text);
 
 /// The first row of a model whose text in `section` starts with `prefix`, case and accents aside;
 /// fetches further rows as far as needed; -1 if there is none.

@@ -3,6 +3,8 @@
 #include "toolkit/forms/line_field.h"
 #include "toolkit/forms/list_popup.h"
 
+#include <QPersistentModelIndex>
+
 class QToolButton;
 
 namespace kaldo {
@@ -13,7 +15,7 @@ namespace kaldo {
 /// in the display column and completes the text; Enter or a click picks and fires closedUp(),
 /// Escape closes and fires cancelled(). A text typed with the list closed is resolved at Enter or
 /// on leaving: the first row that starts with it is taken and closedUp() fires; without such a row
-/// the field is emptied.
+/// the text is told as not on the list, and keeps the focus.
 class LookupField : public LineField {
     Q_OBJECT
 
@@ -24,11 +26,12 @@ public:
     void setSource(const LookupSource &source);
     const LookupSource &source() const { return source_; }
 
-    /// The row of the model that is taken, -1 for none. Forgotten when the model is reset.
-    int row() const { return row_; }
+    /// The row of the model that is taken, -1 for none. Forgotten when the model is reset, while
+    /// value() and the text stay.
+    int row() const { return row_.row(); }
     void setRow(int row);
-    /// The value field of the row; invalid for none.
-    QVariant value() const;
+    /// The value field of the row, as it was when the row was taken; invalid for none.
+    QVariant value() const { return value_; }
     /// Takes the row with this value; false and an empty field if there is none.
     bool setValue(const QVariant &value);
     /// Shows a text without a row, as screens do for what was read with a record.
@@ -54,8 +57,6 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
-    void changeEvent(QEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     void take(int row);
@@ -64,9 +65,11 @@ private:
     LookupSource source_;
     ListPopup *list_;
     QToolButton *arrow_;
-    int row_ = -1;
+    QPersistentModelIndex row_;
+    QVariant value_;
     bool filtering_ = false;
     bool typed_ = false;
+    bool deleting_ = false;
 };
 
 }  // namespace kaldo

@@ -7,10 +7,10 @@ namespace kaldo {
 
 /// An amount box: "$1,234.50" at rest, the plain number while it is typed.
 ///
-/// Only digits, one point, commas, the sign and blanks can be typed; letters are passed over with a
-/// beep. A text that is no amount, is negative or above the limit is told beside the field and
-/// keeps the focus; nothing typed is lost. A value set by the program is kept to the last bit, and
-/// stays so when the focus passes without typing.
+/// Only digits, points, commas, signs and blanks can be typed; letters are passed over. A text that
+/// is no amount, is negative or above the limit is told beside the field and keeps the focus;
+/// nothing typed is lost. A value set by the program is kept to the last bit, and stays so when the
+/// focus passes without typing.
 class MoneyField : public LineField {
     Q_OBJECT
 
@@ -34,6 +34,7 @@ public:
 
     bool commit() override;
     void clearField() override { setValue(0); }
+    void setFieldReadOnly(bool readOnly) override;
 
 signals:
     /// The user changed the amount: on each key stroke that leaves a readable one.

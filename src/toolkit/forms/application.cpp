@@ -1,0 +1,79 @@
+#include "toolkit/forms/application.h"
+
+#include <QScopeGuard>
+
+#include <stdexcept>
+
+namespace kaldo {
+
+bool FailureGate::pass(const std::function<void()> &show) {
+    if (showing_) {
+        ++dropped_;
+        return false;
+    }
+    showing_ = true;
+    const auto open = qScopeGuard([this] { showing_ = false; });
+    show();
+    return true;
+}
+
+Application::Application(int &argc, char **argv) : QApplication(argc, argv) {}
+
+Application *Application::current() {
+    return qobject_cast<Application *>(QCoreApplication::instance());
+}
+
+void Application::setFailureHandler(FailureHandler handler) {
+    handler_ = std::move(handler);
+}
+
+void Application::reportFailure(const std::exception &failure) noexcept {
+    if (!handler_) {
+        qWarning("%s", failure.what());
+        return;
+    }
+    try {
+        const FailureHandler handler = handler_;
+        gate_.pass([&] { handler(failure); });
+    } catch (const std::exception &second) {
+        qWarning("%s (while showing: %s)", second.what(), failure.what());
+    }
+}
+
+void Application::endApplication(int exitCode) {
+    ending_ = true;
+    // Not quit(): that one asks every window first, and a window may refuse.
+    exit(exitCode);
+}
+
+bool Application::notify(QObject *receiver, QEvent *event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception &failure) {
+        reportFailure(failure);
+    } catch (...) {
+        reportFailure(std::runtime_error("Error desconocido."));
+    }
+    return true;
+}
+
+bool runGuarded(const std::function<void()> &call) noexcept {
+    const auto report = [](const std::exception &failure) {
+        if (Application *application = Application::current()) {
+            application->reportFailure(failure);
+        } else {
+            qWarning("%s", failure.what());
+        }
+    };
+    try {
+        call();
+        return true;
+    } catch (const std::exception &failure) {
+        report(failure);
+    } catch (...) {
+        report(std::runtime_error("Error desconocido."));
+    }
+    return false;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,71 @@
+#include "toolkit/forms/button.h"
+
+#include "toolkit/forms/focus_keeper.h"
+
+#include <QFile>
+#include <QKeyEvent>
+
+namespace kaldo {
+
+namespace {
+
+bool isEnter(const QKeyEvent &event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+/// True if the stroke is dealt with. What a field that was just left still has to say comes before
+/// the press, and may disable the button.
+bool handleEnter(QAbstractButton *button, QKeyEvent *event) {
+    const QPointer<QAbstractButton> self(button);
+    FocusKeeper::get().settle();
+    if (!self || !self->isEnabled() || !self->hasFocus()) {
+        return true;
+    }
+    if (!isEnter(*event)) {
+        return false;
+    }
+    event->accept();
+    if (!event->isAutoRepeat()) {
+        button->click();
+    }
+    return true;
+}
+
+}  // namespace
+
+QIcon iconNamed(const QString &name) {
+    const QString path = QStringLiteral(":/icons/%1.svg").arg(name);
+    return QFile::exists(path) ? QIcon(path) : QIcon();
+}
+
+Button::Button(QWidget *parent) : QPushButton(parent) {
+    setAutoDefault(false);
+}
+
+void Button::setIconName(const QString &name) {
+    setIcon(iconNamed(name));
+}
+
+void Button::keyPressEvent(QKeyEvent *event) {
+    if (!handleEnter(this, event)) {
+        QPushButton::keyPressEvent(event);
+    }
+}
+
+IconButton::IconButton(QWidget *parent) : QToolButton(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setToolButtonStyle(Qt::ToolButtonIconOnly);
+}
+
+void IconButton::setIconName(const QString &name) {
+    setIcon(iconNamed(name));
+    setToolButtonStyle(icon().isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
+}
+
+void IconButton::keyPressEvent(QKeyEvent *event) {
+    if (!handleEnter(this, event)) {
+        QToolButton::keyPressEvent(event);
+    }
+}
+
+}  // namespace kaldo

@@ -1,0 +1,256 @@
+#include "toolkit/forms/choice.h"
+
+#include "toolkit/core/text.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QKeyEvent>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QWheelEvent>
+
+namespace kaldo {
+
+namespace {
+
+constexpr int kItemsVisible = 16;
+
+bool isEnter(const QKeyEvent &event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+}  // namespace
+
+Choice::Choice(QWidget *parent) : QComboBox(parent), Field(this) {
+    setMaxVisibleItems(kItemsVisible);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    setSizeAdjustPolicy(AdjustToContents);
+    connect(this, &QComboBox::activated, this, [this] {
+        pending_ = byKeys_;
+        if (!byKeys_) {
+            emit closedUp();
+        }
+    });
+}
+
+void Choice::setItems(const QStringList &items) {
+    pending_ = false;
+    clear();
+    addItems(items);
+    setCurrentIndex(-1);
+}
+
+void Choice::setIndex(int index) {
+    pending_ = false;
+    setCurrentIndex(index);
+}
+
+void Choice::setChosenText(const QString &text) {
+    setIndex(findText(text));
+}
+
+bool Choice::commit() {
+    if (pending_) {
+        pending_ = false;
+        emit closedUp();
+        return true;
+    }
+    if (currentIndex() < 0 && count() > 0 && hasFocus() && !readOnly_) {
+        showPopup();
+        return false;
+    }
+    return true;
+}
+
+void Choice::setFieldReadOnly(bool readOnly) {
+    readOnly_ = readOnly;
+    setAttribute(Qt::WA_TransparentForMouseEvents, readOnly);
+    setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+void Choice::showPopup() {
+    open_ = true;
+    // Behind the list's own filter, which picks on every Enter.
+    view()->removeEventFilter(this);
+    QComboBox::showPopup();
+    view()->installEventFilter(this);
+}
+
+void Choice::hidePopup() {
+    open_ = false;
+    QComboBox::hidePopup();
+}
+
+bool Choice::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        if (isEnter(key) && key.isAutoRepeat()) {
+            return true;
+        }
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+void Choice::keyPressEvent(QKeyEvent *event) {
+    const QScopedValueRollback<bool> keys(byKeys_, true);
+    QComboBox::keyPressEvent(event);
+}
+
+void Choice::wheelEvent(QWheelEvent *event) {
+    event->ignore();  // a form that scrolls must not change what it passes over
+}
+
+RadioGroup::RadioGroup(QWidget *parent)
+    : QGroupBox(parent), Field(this), buttons_(new QButtonGroup(this)) {
+    connect(buttons_, &QButtonGroup::idClicked, this, [this](int index) {
+        updateProxy();
+        emit clicked(index);
+    });
+}
+
+void RadioGroup::setOptions(const QStringList &options, Qt::Orientation orientation) {
+    const QList<QAbstractButton *> old = buttons_->buttons();
+    for (QAbstractButton *button : old) {
+        delete button;
+    }
+    delete layout();
+    auto *line = new QBoxLayout(
+        orientation == Qt::Horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
+    for (int i = 0; i < options.size(); ++i) {
+        auto *button = new QRadioButton(options.at(i), this);
+        button->setObjectName(QStringLiteral("%1_%2").arg(objectName()).arg(i));
+        buttons_->addButton(button, i);
+        watchPart(button);
+        line->addWidget(button);
+    }
+    line->addStretch();
+    updateProxy();
+}
+
+QStringList RadioGroup::options() const {
+    QStringList texts;
+    const QList<QAbstractButton *> all = buttons_->buttons();
+    for (const QAbstractButton *button : all) {
+        texts += button->text();
+    }
+    return texts;
+}
+
+int RadioGroup::index() const {
+    return buttons_->checkedId();
+}
+
+void RadioGroup::setIndex(int index) {
+    if (QAbstractButton *button = buttons_->button(index)) {
+        button->setChecked(true);
+    } else if (QAbstractButton *checked = buttons_->checkedButton()) {
+        buttons_->setExclusive(false);
+        checked->setChecked(false);
+        buttons_->setExclusive(true);
+    }
+    updateProxy();
+}
+
+void RadioGroup::focusChoice(Qt::FocusReason reason) {
+    updateProxy();
+    if (focusProxy()) {
+        focusProxy()->setFocus(reason);
+    }
+}
+
+void RadioGroup::setOptionEnabled(int index, bool enabled) {
+    if (QAbstractButton *button = buttons_->button(index)) {
+        button->setEnabled(enabled);
+    }
+}
+
+void RadioGroup::setFieldReadOnly(bool readOnly) {
+    const QList<QAbstractButton *> all = buttons_->buttons();
+    for (QAbstractButton *button : all) {
+        button->setAttribute(Qt::WA_TransparentForMouseEvents, readOnly);
+        button->setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
+    }
+}
+
+void RadioGroup::updateProxy() {
+    QAbstractButton *target = buttons_->checkedButton();
+    setFocusProxy(target ? target : buttons_->button(0));
+}
+
+CheckField::CheckField(QWidget *parent) : QCheckBox(parent), Field(this) {}
+
+void CheckField::setFieldReadOnly(bool readOnly) {
+    setAttribute(Qt::WA_TransparentForMouseEvents, readOnly);
+    setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+Memo::Memo(QWidget *parent) : QPlainTextEdit(parent), Field(this) {
+    setTabChangesFocus(true);
+    setLines(3);
+    connect(document(), &QTextDocument::contentsChange, this, [this](int at, int, int added) {
+        changedAt_ = at;
+        added_ = added;
+    });
+    connect(this, &QPlainTextEdit::textChanged, this, &Memo::normalise);
+}
+
+void Memo::setUpperCase(bool upper) {
+    upper_ = upper;
+}
+
+void Memo::setCharacters(int characters) {
+    width_ = characters;
+}
+
+void Memo::setLines(int lines) {
+    const int margins = int(2 * document()->documentMargin()) + 2 * frameWidth();
+    setMinimumHeight(fontMetrics().lineSpacing() * lines + margins + 2);
+}
+
+void Memo::setFieldReadOnly(bool readOnly) {
+    setReadOnly(readOnly);
+    setFocusPolicy(readOnly ? Qt::ClickFocus : Qt::StrongFocus);
+    QPalette colors;
+    if (readOnly) {
+        colors.setBrush(QPalette::Base, QApplication::palette(this).window());
+    }
+    setPalette(colors);
+}
+
+void Memo::keyPressEvent(QKeyEvent *event) {
+    if (isEnter(*event)) {
+        if (!event->isAutoRepeat() && !isReadOnly()) {
+            insertPlainText(QStringLiteral("\n"));
+        }
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+void Memo::normalise() {
+    const QString whole = toPlainText();
+    const int excess = width_ > 0 ? characterCount(whole) - width_ : 0;
+    const int end = std::min(changedAt_ + added_, int(whole.size()));
+    const QString added = whole.mid(changedAt_, end - changedAt_);
+    QString kept =
+        excess > 0 ? cutToWidth(added, std::max(0, characterCount(added) - excess)) : added;
+    if (upper_) {
+        for (QChar &c : kept) {
+            c = c.toUpper();
+        }
+    }
+    if (kept != added) {
+        QTextCursor cursor(document());
+        cursor.joinPreviousEditBlock();
+        cursor.setPosition(changedAt_);
+        cursor.setPosition(end, QTextCursor::KeepAnchor);
+        cursor.insertText(kept);
+        cursor.endEditBlock();
+    }
+}
+
+}  // namespace kaldo

@@ -1,0 +1,343 @@
+#include "toolkit/forms/application.h"
+#include "toolkit/forms/data_grid.h"
+#include "toolkit/forms/focus.h"
+#include "toolkit/forms/focus_keeper.h"
+#include "toolkit/forms/grid_parts.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QToolTip>
+
+namespace kaldo {
+
+bool DataGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) {
+    const auto column = state_->bySection.constFind(index.column());
+    const bool may = rowEdit_ && !state_->readOnly && index.isValid() &&
+                     index.row() == currentIndex().row() &&
+                     column != state_->bySection.constEnd() && column->editable;
+    return may && QTableView::edit(index, trigger, event);
+}
+
+bool DataGrid::editorOpen() const {
+    return state_->editor && state_->edited.isValid();
+}
+
+bool DataGrid::listOpen() const {
+    for (const ListPopup *list : std::as_const(state_->lists)) {
+        if (list->isOpen()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool DataGrid::commitEditor() {
+    if (!editorOpen()) {
+        return true;
+    }
+    QLineEdit *editor = state_->editor;
+    bool stored = false;
+    const bool well = runGuarded([&] { stored = store(editor); });
+    if (well && stored && editor == state_->editor) {
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    } else if (!well || !stored) {
+        if (state_->editor) {
+            state_->editor->setFocus(Qt::OtherFocusReason);
+            state_->editor->selectAll();
+        }
+    }
+    return well && stored;
+}
+
+bool DataGrid::store(QWidget *editor) {
+    auto *line = static_cast<QLineEdit *>(editor);
+    if (line->text() == state_->textBefore) {
+        return true;
+    }
+    const GridColumn::Settings column = state_->bySection.value(state_->edited.column());
+    QVariant value;
+    QString complaint;
+    int found = -1;
+    if (column.lookup && column.lookup->model) {
+        QAbstractItemModel *list = column.lookup->model;
+        const int stored = fieldSection(*list, column.lookup->valueField);
+        if (!line->text().trimmed().isEmpty()) {
+            found = findText(list, stored, line->text());
+            if (found < 0) {
+                const int shown = fieldSection(*list, column.lookup->displayField);
+                found = findPrefix(list, shown, line->text().trimmed());
+            }
+        }
+        value = found < 0 ? QVariant() : list->index(found, stored).data(Qt::EditRole);
+    } else if (!GridDelegate::read(line->text(), column, &value, &complaint)) {
+        line->setProperty("complaint", complaint);
+        QToolTip::showText(line->mapToGlobal(line->rect().bottomLeft()), complaint, line);
+        return false;
+    }
+    const bool lookedUp = column.lookup && !line->text().trimmed().isEmpty();
+    const QModelIndex target = state_->rows->mapToSource(state_->edited);
+    if (!target.isValid() || !sourceModel()->setData(target, value, Qt::EditRole)) {
+        const QString refused = QStringLiteral("El valor «%1» no se puede guardar.");
+        QToolTip::showText(line->mapToGlobal(line->rect().bottomLeft()), refused.arg(line->text()),
+                           line);
+        return false;
+    }
+    line->setModified(false);
+    state_->textBefore = line->text();
+    emit cellEdited(column.field);
+    if (lookedUp) {
+        emit resolved(column.field, found);
+    }
+    return true;
+}
+
+void DataGrid::cancelEditor() {
+    if (editorOpen()) {
+        closeEditor(state_->editor, QAbstractItemDelegate::RevertModelCache);
+    }
+}
+
+void DataGrid::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) {
+    if (editor && editor == state_->editor) {
+        state_->editor.clear();
+        state_->edited = QPersistentModelIndex();
+    }
+    QTableView::closeEditor(editor, hint);
+}
+
+void DataGrid::openList() {
+    const int section = currentIndex().column();
+    const GridColumn::Settings column = state_->bySection.value(section);
+    if (!column.lookup || !column.lookup->model) {
+        return;
+    }
+    if (!editorOpen() && !edit(currentIndex(), EditKeyPressed, nullptr)) {
+        return;
+    }
+    ListPopup *&list = state_->lists[column.field];
+    if (!list) {
+        // The grid's, not the editor's: picking closes the editor.
+        list = new ListPopup(this);
+        list->setSource(*column.lookup);
+        connectGuarded(list, &ListPopup::picked, this,
+                       [this, field = column.field](int row) { pickFromList(field, row); });
+    }
+    const int stored = fieldSection(*column.lookup->model, column.lookup->valueField);
+    const QString text = state_->editor->text().trimmed();
+    list->setAnchor(state_->editor);
+    list->open(text.isEmpty() ? -1 : findText(column.lookup->model, stored, text));
+    if (!text.isEmpty()) {
+        list->seek(text);
+    }
+}
+
+void DataGrid::pickFromList(const QString &field, int sourceRow) {
+    const int section = fieldSection(*sourceModel(), field);
+    const GridColumn::Settings column = state_->bySection.value(section);
+    const int stored = fieldSection(*column.lookup->model, column.lookup->valueField);
+    const QModelIndex target = state_->rows->mapToSource(currentIndex()).siblingAtColumn(section);
+    cancelEditor();
+    sourceModel()->setData(
+        target, column.lookup->model->index(sourceRow, stored).data(Qt::EditRole), Qt::EditRole);
+    setFocus(Qt::OtherFocusReason);
+    emit cellEdited(field);
+    emit closedUp(field, sourceRow);
+}
+
+int DataGrid::nextEditable(int section) const {
+    int place = section < 0 ? 0 : state_->header->visualIndex(section) + 1;
+    for (; place < state_->header->count(); ++place) {
+        const int candidate = state_->header->logicalIndex(place);
+        if (!isColumnHidden(candidate) && state_->bySection.value(candidate).editable) {
+            return candidate;
+        }
+    }
+    return -1;
+}
+
+void DataGrid::nextColumn() {
+    const int next = nextEditable(currentIndex().column());
+    if (next >= 0) {
+        setCurrentIndex(currentIndex().siblingAtColumn(next));
+    }
+}
+
+void DataGrid::afterEnter() {
+    state_->fieldMoved = false;
+    const bool wasOpen = rowEdit_;
+    if (state_->enter) {
+        state_->enter(currentField());
+    }
+    if (FocusKeeper::get().held()) {
+        return;
+    }
+    if (state_->fieldMoved) {
+        stayHere();
+    } else if (rowEdit_) {
+        nextColumn();
+        stayHere();
+    } else if (wasOpen) {
+        stayHere();  // the row was saved or cancelled: its screen goes on from here
+    }
+}
+
+bool DataGrid::arrowKey(QKeyEvent *event) {
+    static const QList<int> leaving = {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
+    if (!rowEdit_ || !leaving.contains(event->key())) {
+        return false;
+    }
+    if (event->key() == Qt::Key_Down && (event->modifiers() & Qt::AltModifier)) {
+        openList();
+        return true;
+    }
+    if (state_->arrowCancel && !listOpen() && !event->isAutoRepeat()) {
+        cancelEditor();
+        FocusKeeper::get().post([grid = QPointer<DataGrid>(this), handler = state_->arrowCancel] {
+            if (grid) {
+                runGuarded(handler);
+            }
+        });
+    }
+    return true;
+}
+
+void DataGrid::keyPressEvent(QKeyEvent *event) {
+    const bool control = event->modifiers() & Qt::ControlModifier;
+    if (event->matches(QKeySequence::Copy)) {
+        copyRows();
+        return;
+    }
+    if (control && event->key() == Qt::Key_F && filtering()) {
+        state_->header->focusFilter(std::max(currentIndex().column(), 0));
+        return;
+    }
+    const bool altDown = event->key() == Qt::Key_Down && (event->modifiers() & Qt::AltModifier);
+    if (event->key() == Qt::Key_F4 || altDown) {
+        openList();
+        return;
+    }
+    if (event->key() == Qt::Key_Escape) {
+        if (state_->escape) {
+            const Handler handler = state_->escape;
+            runGuarded(handler);
+        } else {
+            event->ignore();
+        }
+        return;
+    }
+    const bool jumps = control && (event->key() == Qt::Key_Home || event->key() == Qt::Key_End);
+    if (arrowKey(event) || (rowEdit_ && jumps)) {
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void DataGrid::mousePressEvent(QMouseEvent *event) {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (rowEdit_ && index.row() != currentIndex().row()) {
+        return;  // the row that is open stays the current one
+    }
+    QTableView::mousePressEvent(event);
+}
+
+void DataGrid::mouseDoubleClickEvent(QMouseEvent *event) {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (rowEdit_ && index.row() != currentIndex().row()) {
+        return;
+    }
+    if (state_->doubleClick && index.isValid()) {
+        setCurrentIndex(index);
+        FocusKeeper::get().post([grid = QPointer<DataGrid>(this), handler = state_->doubleClick] {
+            if (grid) {
+                runGuarded(handler);
+            }
+        });
+        return;
+    }
+    QTableView::mouseDoubleClickEvent(event);
+}
+
+void DataGrid::focusInEvent(QFocusEvent *event) {
+    QTableView::focusInEvent(event);
+    if (editorOpen()) {
+        state_->editor->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    const bool none = !currentIndex().isValid() || isColumnHidden(currentIndex().column());
+    if (none && state_->rows->rowCount() > 0) {
+        setCurrentRow(std::max(0, currentRow()));
+    }
+}
+
+void DataGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
+    QTableView::currentChanged(current, previous);
+    if (current.row() != previous.row() || current.isValid() != previous.isValid()) {
+        emit currentRowChanged(state_->rows->mapToSource(current).row());
+    }
+    if (current.column() != previous.column()) {
+        emit currentFieldChanged(currentField());
+    }
+    viewport()->update();
+}
+
+void DataGrid::copyRows() const {
+    QModelIndexList rows = selectionModel()->selectedRows();
+    if (rows.isEmpty() && currentIndex().isValid()) {
+        rows += currentIndex();
+    }
+    std::sort(rows.begin(), rows.end(),
+              [](const QModelIndex &a, const QModelIndex &b) { return a.row() < b.row(); });
+    QStringList lines;
+    for (const QModelIndex &row : std::as_const(rows)) {
+        QStringList cells;
+        for (int place = 0; place < state_->header->count(); ++place) {
+            const int section = state_->header->logicalIndex(place);
+            if (!isColumnHidden(section)) {
+                cells += maskedText(row.siblingAtColumn(section).data(Qt::EditRole),
+                                    state_->bySection.value(section).mask);
+            }
+        }
+        lines += cells.join(QLatin1Char('\t'));
+    }
+    if (!lines.isEmpty()) {
+        QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+    }
+}
+
+void DataGrid::updateGeometries() {
+    if (!state_ || state_->inGeometry) {
+        return;
+    }
+    state_->inGeometry = true;
+    QTableView::updateGeometries();
+    const int footer = state_->footer->sizeHint().height();
+    QMargins margins = viewportMargins();
+    if (footer > 0) {
+        margins.setBottom(footer);
+        setViewportMargins(margins);
+        // The base worked the range out for the viewport without the footer.
+        const int shown = viewport()->height();
+        verticalScrollBar()->setPageStep(shown);
+        verticalScrollBar()->setRange(0, std::max(0, verticalHeader()->length() - shown));
+    }
+    const QRect view = viewport()->geometry();
+    state_->footer->setGeometry(view.left(), view.bottom() + 1, view.width(), footer);
+    state_->footer->setVisible(footer > 0);
+    state_->inGeometry = false;
+}
+
+QSize DataGrid::sizeHint() const {
+    const int rows = 8;
+    const int height = state_->header->sizeHint().height() +
+                       rows * verticalHeader()->defaultSectionSize() +
+                       state_->footer->sizeHint().height() + 2 * frameWidth();
+    const int width =
+        state_->header->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    return {std::min(width, 900), height};
+}
+
+}  // namespace kaldo

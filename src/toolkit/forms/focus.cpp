@@ -1,0 +1,172 @@
+#include "toolkit/forms/focus.h"
+
+#include "toolkit/forms/choice.h"
+#include "toolkit/forms/focus_keeper.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+namespace kaldo {
+
+namespace {
+
+constexpr char kEscapeProperty[] = "kaldoEscape";
+
+bool canTakeFocus(QWidget *widget) {
+    return widget->isEnabled() && widget->isVisibleTo(widget->window());
+}
+
+void giveFocus(QWidget *widget) {
+    if (auto *group = qobject_cast<RadioGroup *>(widget)) {
+        group->focusChoice(Qt::TabFocusReason);
+        return;
+    }
+    // The reason of the Tab key: the text is selected and the next key replaces it.
+    widget->setFocus(Qt::TabFocusReason);
+}
+
+}  // namespace
+
+QWidget *formOf(QWidget *widget) {
+    QWidget *form = widget;
+    while (form && !form->isWindow() && !form->inherits("QMdiSubWindow")) {
+        form = form->parentWidget();
+    }
+    return form;
+}
+
+FocusKeeper &FocusKeeper::get() {
+    const QString name = QStringLiteral("focusKeeper");
+    QObject *parent = QCoreApplication::instance();
+    QObject *found = parent->findChild<QObject *>(name, Qt::FindDirectChildrenOnly);
+    if (!found) {
+        found = new FocusKeeper(parent);
+        found->setObjectName(name);
+    }
+    return *static_cast<FocusKeeper *>(found);
+}
+
+FocusKeeper::Scope::Scope(QWidget *field, Kind kind) : form_(formOf(field)), kind_(kind) {
+    FocusKeeper &keeper = FocusKeeper::get();
+    outer_ = keeper.scope_;
+    keeper.scope_ = this;
+}
+
+FocusKeeper::Scope::~Scope() {
+    FocusKeeper &keeper = FocusKeeper::get();
+    keeper.carryOut(form_);
+    keeper.scope_ = outer_;
+    if (!keeper.requests_.isEmpty()) {
+        keeper.schedule();
+    }
+}
+
+void FocusKeeper::request(QWidget *widget) {
+    QWidget *form = formOf(widget);
+    requests_[form] = widget;
+    for (Scope *scope = scope_; scope; scope = scope->outer_) {
+        if (scope->form_ == form) {
+            scope->held_ = true;
+            return;  // carried out when that handler returns
+        }
+    }
+    schedule();
+}
+
+void FocusKeeper::stay() {
+    if (scope_) {
+        scope_->held_ = true;
+        requests_.remove(scope_->form_);
+    }
+}
+
+bool FocusKeeper::leaving(const QWidget *form) const {
+    for (const Scope *scope = scope_; scope; scope = scope->outer_) {
+        if (scope->kind_ == Scope::Kind::Leave && scope->form_ == form) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void FocusKeeper::post(std::function<void()> task) {
+    tasks_.push_back(std::move(task));
+    schedule();
+}
+
+void FocusKeeper::schedule() {
+    if (!scheduled_) {
+        scheduled_ = true;
+        QTimer::singleShot(0, this, [this] {
+            scheduled_ = false;
+            settle();
+        });
+    }
+}
+
+void FocusKeeper::settle() {
+    while (!tasks_.empty() || !requests_.isEmpty()) {
+        const std::vector<std::function<void()>> tasks = std::exchange(tasks_, {});
+        for (const auto &task : tasks) {
+            task();
+        }
+        const QList<QObject *> forms = requests_.keys();
+        bool any = false;
+        for (QObject *form : forms) {
+            bool inHandler = false;
+            for (Scope *scope = scope_; scope; scope = scope->outer_) {
+                inHandler = inHandler || scope->form_ == form;
+            }
+            if (!inHandler) {
+                any = true;
+                const QPointer<QWidget> widget = requests_.take(form);
+                if (widget && canTakeFocus(widget)) {
+                    giveFocus(widget);
+                }
+            }
+        }
+        if (!any && tasks_.empty()) {
+            break;
+        }
+    }
+}
+
+void FocusKeeper::carryOut(QWidget *form) {
+    const QPointer<QWidget> widget = requests_.take(form);
+    if (widget && canTakeFocus(widget)) {
+        giveFocus(widget);
+    }
+}
+
+void moveFocus(QWidget *widget) {
+    FocusKeeper::get().request(widget);
+}
+
+void stayHere() {
+    FocusKeeper::get().stay();
+}
+
+void markAsEscape(QWidget *button) {
+    button->setProperty(kEscapeProperty, true);
+}
+
+bool isEscape(const QWidget *widget) {
+    return widget && widget->property(kEscapeProperty).toBool();
+}
+
+QWidget *nextInTabOrder(QWidget *from, bool forward) {
+    const QWidget *form = formOf(from);
+    QWidget *candidate = from;
+    do {
+        candidate = forward ? candidate->nextInFocusChain() : candidate->previousInFocusChain();
+        const bool inForm = form->isAncestorOf(candidate) && formOf(candidate) == form;
+        if (inForm && candidate != from && !from->isAncestorOf(candidate) &&
+            (candidate->focusPolicy() & Qt::TabFocus) && !candidate->focusProxy() &&
+            candidate->isEnabled() && candidate->isVisibleTo(form)) {
+            return candidate;
+        }
+    } while (candidate && candidate != from);
+    return nullptr;
+}
+
+}  // namespace kaldo

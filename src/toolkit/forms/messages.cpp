@@ -1,0 +1,146 @@
+#include "toolkit/forms/messages.h"
+
+#include "toolkit/forms/application.h"
+#include "toolkit/forms/button.h"
+
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace kaldo {
+
+namespace {
+
+/// Wide enough for a sentence, narrow enough to be read at a glance.
+constexpr int kTextCharacters = 58;
+
+QStyle::StandardPixmap pictureOf(MessageKind kind) {
+    switch (kind) {
+        case MessageKind::Warning:
+            return QStyle::SP_MessageBoxWarning;
+        case MessageKind::Error:
+            return QStyle::SP_MessageBoxCritical;
+        case MessageKind::Confirmation:
+            return QStyle::SP_MessageBoxQuestion;
+        case MessageKind::Information:
+            break;
+    }
+    return QStyle::SP_MessageBoxInformation;
+}
+
+class Box : public QDialog {
+public:
+    Box(const Message &message, QWidget *parent) : QDialog(parent) {
+        setObjectName(QStringLiteral("messageBox"));
+        setWindowTitle(message.title.isEmpty() ? defaultTitle(message.kind) : message.title);
+        setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+        auto *rows = new QVBoxLayout(this);
+        rows->setContentsMargins(20, 20, 20, 16);
+        rows->setSpacing(18);
+        rows->setSizeConstraint(QLayout::SetFixedSize);
+        rows->addLayout(content(message));
+        rows->addLayout(buttons(message.kind));
+    }
+
+private:
+    QLayout *content(const Message &message) {
+        auto *line = new QHBoxLayout;
+        line->setSpacing(16);
+        auto *picture = new QLabel(this);
+        const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+        picture->setPixmap(style()->standardIcon(pictureOf(message.kind)).pixmap(size, size));
+        line->addWidget(picture, 0, Qt::AlignTop);
+        auto *text = new QLabel(this);
+        text->setObjectName(QStringLiteral("messageText"));
+        text->setTextFormat(Qt::PlainText);
+        text->setText(message.text);
+        text->setWordWrap(true);
+        const QFontMetrics metrics(text->font());
+        const int widest = metrics.averageCharWidth() * kTextCharacters;
+        const QRect needed = metrics.boundingRect(QRect(0, 0, widest, 10000),
+                                                  Qt::TextWordWrap | Qt::AlignLeft, message.text);
+        text->setMinimumWidth(qMin(widest, needed.width() + metrics.averageCharWidth()));
+        text->setMaximumWidth(widest);
+        line->addWidget(text, 1, Qt::AlignVCenter);
+        setAccessibleName(windowTitle());
+        setAccessibleDescription(message.text);
+        return line;
+    }
+
+    QLayout *buttons(MessageKind kind) {
+        auto *line = new QHBoxLayout;
+        line->addStretch();
+        if (kind == MessageKind::Confirmation) {
+            add(line, QStringLiteral("yesButton"), QStringLiteral("&Sí"), QDialog::Accepted);
+            add(line, QStringLiteral("noButton"), QStringLiteral("&No"), QDialog::Rejected);
+        } else {
+            add(line, QStringLiteral("okButton"), QStringLiteral("&Aceptar"), QDialog::Accepted);
+        }
+        return line;
+    }
+
+    void add(QHBoxLayout *line, const QString &name, const QString &text, int result) {
+        auto *button = new Button(this);
+        button->setObjectName(name);
+        button->setText(text);
+        button->setMinimumWidth(fontMetrics().averageCharWidth() * 14);
+        connect(button, &QPushButton::clicked, this, [this, result] { done(result); });
+        line->addWidget(button);
+        if (line->count() == 2) {  // the stretch and the first button
+            button->setFocus();
+        }
+    }
+};
+
+}  // namespace
+
+QString defaultTitle(MessageKind kind) {
+    switch (kind) {
+        case MessageKind::Warning:
+            return QStringLiteral("Advertencia");
+        case MessageKind::Error:
+            return QStringLiteral("Error");
+        case MessageKind::Confirmation:
+            return QStringLiteral("Confirmación");
+        case MessageKind::Information:
+            break;
+    }
+    return QStringLiteral("Información");
+}
+
+void Messages::information(const QString &text, const QString &title) {
+    show({MessageKind::Information, text, title});
+}
+
+void Messages::warning(const QString &text, const QString &title) {
+    show({MessageKind::Warning, text, title});
+}
+
+void Messages::error(const QString &text, const QString &title) {
+    show({MessageKind::Error, text, title});
+}
+
+Answer Messages::confirm(const QString &text, const QString &title) {
+    return show({MessageKind::Confirmation, text, title});
+}
+
+Answer BoxMessages::show(const Message &message) {
+    const auto ending = [] {
+        const Application *application = Application::current();
+        return application && application->ending();
+    };
+    if (ending()) {
+        return Answer::Ended;
+    }
+    QWidget *parent = QApplication::activeModalWidget();
+    Box box(message, parent ? parent : QApplication::activeWindow());
+    const int result = box.exec();
+    if (ending()) {
+        return Answer::Ended;
+    }
+    return result == QDialog::Accepted ? Answer::Yes : Answer::No;
+}
+
+}  // namespace kaldo
