@@ -36,7 +36,7 @@ void LookupField::setSource(const LookupSource &source) {
 void LookupField::take(int row) {
     typed_ = false;
     if (!source_.model || row < 0 || row >= source_.model->rowCount()) {
-        row_ = {};
+        row_ = QPersistentModelIndex();
         value_ = {};
         clear();
         return;
@@ -61,7 +61,7 @@ bool LookupField::setValue(const QVariant &value) {
 
 void LookupField::setShownText(const QString &text) {
     typed_ = false;
-    row_ = {};
+    row_ = QPersistentModelIndex();
     value_ = {};
     setText(text);
     setCursorPosition(0);
@@ -125,7 +125,7 @@ bool LookupField::commit() {
 
 void LookupField::complete(const QString &typed) {
     typed_ = true;
-    row_ = {};
+    row_ = QPersistentModelIndex();
     value_ = {};
     if (!source_.model || typed.trimmed().isEmpty() || cursorPosition() != typed.size() ||
         deleting_) {
