@@ -29,7 +29,8 @@ end^
 
 -- Active dossiers since a day, newest first.
 -- ban: '1' the campus by patient type, '2' the centre by patient type, '3' the centre, '4' the
--- campus. An empty or NULL tipo takes every patient type.
+-- campus. An empty or NULL tipo takes every patient type. folio + 0 keeps the dossier's index in
+-- front, so that the first page comes without reading the rest.
 create procedure kdcargarexp (
     cent varchar(4),
     cd varchar(3),
