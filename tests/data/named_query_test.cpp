@@ -172,8 +172,8 @@ TEST_F(NamedQueryTest, CalculatedAndLookedUpFieldsFollowTheirSources) {
 
 TEST_F(NamedQueryTest, RepeatedColumnNamesAreNumbered) {
     NamedQuery sums{{"Sumas",
-                     "select max(clave), min(clave), max(cant), texto, texto from lineas "
-                     "group by texto"}};
+                     "select max(a.clave), min(a.clave), max(a.cant), a.texto, b.texto from lineas "
+                     "a join lineas b on a.clave=b.clave group by a.texto, b.texto"}};
     sums.bindTo(connection);
     sums.open();
     EXPECT_EQ(sums.integer("MAX"), 1);

@@ -68,6 +68,9 @@ bool parseMoney(const QString &text, double *value) {
     if (!match.hasMatch()) {
         return false;
     }
+    if (!match.captured(1).isEmpty() && !match.captured(2).isEmpty()) {
+        return false;
+    }
     const bool negative = !match.captured(1).isEmpty() || !match.captured(2).isEmpty();
     QString digits = match.captured(3);
     digits.remove(QLatin1Char(','));

@@ -1,0 +1,78 @@
+#include <QDate>
+
+#include <gtest/gtest.h>
+
+#include "data/database_error.h"
+#include "data/options.h"
+#include "data/runtime_texts.h"
+#include "data/statement_text.h"
+#include "tests/support/test_installation.h"
+
+namespace kaldo::test {
+namespace {
+
+TEST(StatementTextTest, NamesInsideQuotesAndCommentsAreNoParameters) {
+    const PositionalText text = toPositional(
+        "select ':a', \":b\", x -- :c\n, /* :d */ :uno from t where h='12:30' and y=:dos_2 or "
+        ":uno");
+    EXPECT_EQ(text.names, QStringList({"uno", "dos_2", "uno"}));
+    EXPECT_EQ(text.text,
+              "select ':a', \":b\", x -- :c\n, /* :d */ ? from t where h='12:30' and y=? or ?");
+}
+
+TEST(RuntimeTextTest, TheOdbcFormCarriesItsValuesBetweenDoubleQuotes) {
+    const RuntimeText names = consultaAdmisionText(" O\"HARA? ", "50%", ":x");
+    EXPECT_TRUE(names.odbc().contains("Where d.paterno like \"%O\"\"HARA?%\""));
+    EXPECT_TRUE(names.odbc().contains("And d.materno like \"%50%%\""));
+    EXPECT_TRUE(names.odbc().contains("And d.paciente like \"%:x%\""));
+    EXPECT_TRUE(names.firebird().contains("Where d.paterno like :C1"));
+
+    EXPECT_TRUE(expeText("00001/24", "VAN").firebird().contains("starting with :Exp"));
+    EXPECT_TRUE(expeText("00001/24", "VAN").odbc().contains("like \"00001/24%\""));
+    EXPECT_TRUE(listaPreciosFaceText(96, true).odbc().contains("not like \"%FACE 2\""));
+    EXPECT_TRUE(listaPreciosFaceText(96, false).odbc().contains("not like \"%FACE 1%\""));
+    EXPECT_TRUE(claveRepetidaText(QVariant()).odbc().contains("cve_prod=null"));
+
+    const QList<RuntimeText> cut = borrarCorteTexts(1, QDate(2024, 9, 30));
+    ASSERT_EQ(cut.size(), 3);
+    EXPECT_EQ(cut[0].firebird(),
+              "Delete From cortebancario\nwhere num_caja STARTING WITH :caja\n"
+              "And fechacorte=:fecha");
+    EXPECT_EQ(cut[0].odbc(),
+              "Delete From cortebancario\nwhere num_caja = \"1\"\n"
+              "And fechacorte=\"30/09/2024\"");
+}
+
+TEST(OptionsTest, ReadsEveryKeyAndStopsAtTheFirstThatIsNoNumber) {
+    TestInstallation files;
+    Options options;
+    options.load(IniFile(files.iniPath()));
+    EXPECT_EQ(options.sector, Sector::Educativo);
+    EXPECT_EQ(options.DiasBusqueda, 30);
+    EXPECT_EQ(options.fechaExpedientes(), QDate(2020, 1, 1));
+
+    files.setIni("Cliente", "iniciales", "");
+    files.setIni("Cliente", "sector", "");
+    files.setIni("Usuario", "estado", "0");
+    files.setIni("Expedientes", "prestamo", "S");
+    files.setIni("Expedientes", "sysanterior", "N");
+    files.setIni("Admisiones", "consentimiento", "");
+    Options other;
+    other.load(IniFile(files.iniPath()));
+    EXPECT_EQ(other.Iniciales, other.NombreInstitucion);
+    EXPECT_EQ(other.sector, Sector::None);
+    EXPECT_EQ(other.Estado, -1);
+    EXPECT_EQ(other.Consentimiento, -1);
+    EXPECT_FALSE(other.ActivarPrestamo) << "without the old system the loans come up off";
+    EXPECT_EQ(other.ExpedientesPorAlumno, 0);
+
+    files.setIni("Expedientes", "sysanterior", "S");
+    files.setIni("Admisiones", "dias", "treinta");
+    Options stopped;
+    EXPECT_THROW(stopped.load(IniFile(files.iniPath())), std::invalid_argument);
+    EXPECT_EQ(stopped.NombreInstitucion, other.NombreInstitucion) << "what stands before is read";
+    EXPECT_FALSE(stopped.ActivarPrestamo) << "what stands behind is not";
+}
+
+}  // namespace
+}  // namespace kaldo::test

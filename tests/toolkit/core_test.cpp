@@ -1,0 +1,168 @@
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "toolkit/core/ini_file.h"
+#include "toolkit/core/installation.h"
+#include "toolkit/core/money.h"
+#include "toolkit/core/text.h"
+
+namespace kaldo {
+namespace {
+
+TEST(MoneyTest, RoundsToTheNearestTenThousandthAndRefusesWhatItCannotHold) {
+    EXPECT_EQ(Money::rounded(0.1 + 0.2).tenThousandths(), 3000);
+    EXPECT_EQ(Money::rounded(10 * 18.1234).tenThousandths(), 1812340);
+    EXPECT_EQ(Money::rounded(0.00005).tenThousandths(), 1);
+    EXPECT_EQ(Money::rounded(-0.00005).tenThousandths(), -1);
+    EXPECT_EQ(Money::rounded(999999999.99).tenThousandths(), 9999999999900);
+    EXPECT_THROW(Money::rounded(1e15), std::range_error);
+    EXPECT_THROW(Money::rounded(std::nan("")), std::range_error);
+}
+
+TEST(MoneyTest, TheMasksAreThoseOfMexicoOnEveryMachine) {
+    EXPECT_EQ(formatMoney(1234567.895), "$1,234,567.90");
+    EXPECT_EQ(formatMoney(0.0), "$0.00");
+    EXPECT_EQ(formatMoney(-1234.5), "-$1,234.50");
+    EXPECT_EQ(formatMoney(-0.001), "$0.00") << "no minus before a zero";
+    EXPECT_EQ(formatMoney(999.0, MoneyMask::Spaced), "$ 999.00");
+    EXPECT_EQ(formatMoneyFourDecimals(Money::fromTenThousandths(49)), "$0.0049");
+    EXPECT_EQ(formatPlainNumber(18.5), "18.5");
+    EXPECT_EQ(formatPlainNumber(1000000), "1000000");
+    EXPECT_EQ(formatPlainNumber(0.0001), "0.0001");
+}
+
+TEST(MoneyTest, WhatAPersonTypesIsReadOrRefused) {
+    const auto read = [](const char *text) {
+        double value = -1;
+        return parseMoney(QString::fromUtf8(text), &value) ? value : -999;
+    };
+    EXPECT_EQ(read(""), 0);
+    EXPECT_EQ(read(" 1,234.50 "), 1234.5);
+    EXPECT_EQ(read("$ 12"), 12);
+    EXPECT_EQ(read(".5"), 0.5);
+    EXPECT_EQ(read("5."), 5);
+    EXPECT_EQ(read("-3"), -3);
+    for (const char *bad : {"abc", "1,5", "12,34.5", "1.2.3", "--1", "$", ".", "1e5", "٣"}) {
+        EXPECT_EQ(read(bad), -999) << bad;
+    }
+}
+
+TEST(MoneyTest, FormattedAmountsReadBackAsThemselves) {
+    std::mt19937 random(7);
+    std::uniform_int_distribution<qint64> cents(-99999999999, 99999999999);
+    for (int at = 0; at < 2000; ++at) {
+        const double amount = static_cast<double>(cents(random)) / 100.0;
+        double back = 0;
+        ASSERT_TRUE(parseMoney(formatMoney(amount), &back));
+        EXPECT_EQ(Money::rounded(back), Money::rounded(amount));
+    }
+}
+
+TEST(TextTest, WidthsCountCharactersAndNeverSplitOne) {
+    EXPECT_EQ(cutToWidth("abcdef", 3), "abc");
+    EXPECT_EQ(cutToWidth(QStringLiteral("😀😀x"), 2), QStringLiteral("😀😀"));
+    EXPECT_EQ(characterCount(QStringLiteral("ñ😀")), 2);
+    FixedText<8> code = QString("demasiado largo");
+    EXPECT_EQ(code.text(), "demasiad");
+}
+
+TEST(TextTest, CapitalsOfHeadings) {
+    EXPECT_EQ(Mayusculas(QStringLiteral("Clínica Ñandú")), QStringLiteral("CLINICA ÑANDU"));
+    EXPECT_EQ(Mayusculas(QStringLiteral("Área")), QStringLiteral("ÁREA"))
+        << "capital accents stay as they are";
+    EXPECT_EQ(asciiUpper(QStringLiteral("cajeró1ñ")), QStringLiteral("CAJERó1ñ"));
+}
+
+class IniFileTest : public ::testing::Test {
+protected:
+    QString write(const QByteArray &content) {
+        QFile file(folder.filePath("kaldo.ini"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+    QByteArray read() {
+        QFile file(folder.filePath("kaldo.ini"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(IniFileTest, SectionsAndKeysHaveNoCaseAndValuesStandAsTheyAre) {
+    const IniFile ini(
+        write("; comentario\r\n[Sql]\r\nCliente = Firebird\r\n[Ambiente]\r\n"
+              "skin=C:\\KALDO\\Ini\\a,b=\"c\".dll\r\n[Vacia]\r\n"));
+    EXPECT_EQ(ini.value("SQL", "cliente"), "Firebird");
+    EXPECT_EQ(ini.value("ambiente", "SKIN"), "C:\\KALDO\\Ini\\a,b=\"c\".dll");
+    EXPECT_EQ(ini.value("Vacia", "x", "defecto"), "defecto");
+    EXPECT_EQ(ini.value("NoHay", "x"), "");
+}
+
+TEST_F(IniFileTest, AWriteChangesItsLineAndNoOther) {
+    const QString path = write("; arriba\n[A]\nuno=1\n\n# raro\n[B]\nuno=2\n");
+    IniFile ini(path);
+    ini.setValue("b", "UNO", "20");
+    ini.setValue("A", "dos", "con\nsalto");
+    ini.setValue("C", "tres", "3");
+    EXPECT_EQ(read(),
+              "; arriba\n[A]\nuno=1\n\n# raro\ndos=con salto\n[B]\nuno=20\n\n[C]\ntres=3\n");
+    EXPECT_EQ(IniFile(path).value("c", "tres"), "3");
+}
+
+TEST_F(IniFileTest, MissingLatinAndBinaryFilesAreReadAsFarAsTheyMakeSense) {
+    EXPECT_EQ(IniFile(folder.filePath("no.ini")).value("Sql", "cliente"), "");
+    EXPECT_EQ(IniFile(write("[Cliente]\nnombre=Cl\xEDnica\n")).value("Cliente", "nombre"),
+              QStringLiteral("Clínica"));
+    EXPECT_EQ(IniFile(write("\xEF\xBB\xBF[Sql]\ncliente=Firebird\n")).value("Sql", "cliente"),
+              "Firebird");
+    QByteArray binary;
+    for (int at = 0; at < 4096; ++at) {
+        binary += static_cast<char>(at * 37);
+    }
+    EXPECT_EQ(IniFile(write(binary)).value("Sql", "cliente"), "");
+}
+
+TEST_F(IniFileTest, ANumberThatIsNoneFailsInSpanish) {
+    const IniFile ini(write("[Admisiones]\ndias=\n[Impresiones]\nduplicado=5\n"));
+    EXPECT_EQ(ini.integer("Impresiones", "duplicado"), 5);
+    for (const char *section : {"Admisiones", "Nada"}) {
+        try {
+            ini.integer(section, "dias");
+            ADD_FAILURE();
+        } catch (const std::invalid_argument &failure) {
+            EXPECT_NE(std::string(failure.what()).find("no es un valor entero"), std::string::npos);
+        }
+    }
+}
+
+TEST_F(IniFileTest, AFileThatCannotBeWrittenKeepsItsValue) {
+    IniFile ini("/proc/kaldo.ini");
+    EXPECT_THROW(ini.setValue("A", "b", "c"), std::runtime_error);
+    EXPECT_EQ(ini.value("A", "b"), "");
+}
+
+TEST(InstallationTest, PathsOfTheInstallationAreFoundWithoutRegardToCase) {
+    QTemporaryDir folder;
+    QDir(folder.path()).mkpath("database");
+    QFile file(folder.filePath("database/Bd_Local.gdb"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const Installation installation(folder.path());
+    EXPECT_EQ(installation.map("C:\\KALDO\\DataBase\\BD_LOCAL.GDB"), file.fileName());
+    EXPECT_EQ(installation.map("c:/kaldo/DATABASE/nueva.gdb"),
+              folder.filePath("database/nueva.gdb"));
+    EXPECT_EQ(installation.map("\\KALDO\\Ini\\kaldo.ini"), folder.filePath("Ini/kaldo.ini"));
+    EXPECT_EQ(installation.map("servidor:/datos/KALDO/x.gdb"), "servidor:/datos/KALDO/x.gdb");
+    EXPECT_EQ(Installation::rootFromEnvironment({"kaldo", "--root", "/aqui"}), "/aqui");
+}
+
+}  // namespace
+}  // namespace kaldo
