@@ -5,17 +5,14 @@
 #include "payments/payment.h"
 #include "payments/receipt_printer.h"
 #include "payments/tender.h"
-
-class QLabel;
+#include "toolkit/forms/form.h"
 
 namespace kaldo {
 
-class Button;
-class MoneyField;
-class RadioGroup;
-class TextField;
-
 /// "Forma de Pago": the cashier says how a note is paid. It writes nothing to any database.
+///
+/// The amounts live in a Payment; the boxes show it and are read back into it by Totales(), the
+/// only place that decides whether the payment is enough.
 class FRM401_3 : public Dialog {
     Q_OBJECT
 
@@ -34,9 +31,72 @@ protected:
     void activated() override;
 
 private:
+    // Widgets
+    form::Item tenderItems();
+    form::Item chequeItems();
+    form::Item totalItems();
+    form::Item buttonItems();
+    QList<MoneyField *> tenderBoxes() const { return {CEdit2_, CEdit3_, CEdit4_, CEdit5_}; }
+    void focusTender(MoneyField *from, int step);
+
+    // What is shown
+    void showPayment();
+    void showTotals();
+    void showLayout();
+    void enableTenders();
+    void acceptable(bool enabled);
+
+    // What the cashier does
+    void Totales();
+    void readBoxes();
+    void RadioGroup1Click(PaymentKind kind);
+    void preguntarAnticipo();
+    void ValidaTarjeta();
+    void llegarATarjeta();
+    void teclearTarjeta(double importe);
+    void enterTarjeta();
+    void salirDeTarjeta();
+    void salirDeImporte();
+    void elegirTarjeta(CardKind kind);
+    void enterTipoDeTarjeta();
+    void olvidarTarjeta();
+    void enterDolares();
+    void enterPesos();
+    void enterEdit12();
+    void imprimirRecibo();
+    bool commitFocused();
+
     ReceiptPrinter receipt_;
     NoteDraft draft_;
     Payment payment_;
+    bool ready_ = false;  ///< the rate is known and the amounts are this note's
+
+    QGroupBox *GroupBox1_ = nullptr;
+    RadioGroup *RadioGroup1_ = nullptr;
+    RadioGroup *RadioGroup2_ = nullptr;
+    QWidget *PanelCheque_ = nullptr;
+    QWidget *PanelAnticipo_ = nullptr;
+    QWidget *PanelPrestacion_ = nullptr;
+    QLabel *LabelTipoCambio_ = nullptr;
+    QLabel *LabelPrestacion_ = nullptr;
+    TextField *Edit1_ = nullptr;
+    TextField *Edit2_ = nullptr;
+    TextField *Edit3_ = nullptr;
+    TextField *Edit12_ = nullptr;
+    MoneyField *CEdit0_ = nullptr;
+    MoneyField *CEdit1_ = nullptr;
+    MoneyField *CEdit2_ = nullptr;
+    MoneyField *CEdit3_ = nullptr;
+    MoneyField *CEdit4_ = nullptr;
+    MoneyField *CEdit5_ = nullptr;
+    MoneyField *CEdit6_ = nullptr;
+    MoneyField *CEdit7_ = nullptr;
+    MoneyField *CEdit8_ = nullptr;
+    MoneyField *CEdit9_ = nullptr;
+    MoneyField *CEdit10_ = nullptr;
+    MoneyField *CEdit11_ = nullptr;
+    Button *ImprimirRecibo_ = nullptr;
+    Button *CerrarVentana_ = nullptr;
 };
 
 }  // namespace kaldo
