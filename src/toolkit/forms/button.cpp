@@ -5,6 +5,11 @@
 #include <QFile>
 #include <QKeyEvent>
 
+// A static library keeps its resources only if someone asks for them, from outside any namespace.
+static void loadIcons() {
+    Q_INIT_RESOURCE(icons);
+}
+
 namespace kaldo {
 
 namespace {
@@ -34,6 +39,7 @@ bool handleEnter(QAbstractButton *button, QKeyEvent *event) {
 }  // namespace
 
 QIcon iconNamed(const QString &name) {
+    loadIcons();
     const QString path = QStringLiteral(":/icons/%1.svg").arg(name);
     return QFile::exists(path) ? QIcon(path) : QIcon();
 }
