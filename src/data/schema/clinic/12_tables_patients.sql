@@ -36,7 +36,8 @@ create table datosgenerales (
     constraint pk_datosgenerales primary key (folio)
 );
 
--- Admissions. status: 'PD' pending, 'AU' authorised, 'CA' cancelled. nota_vta 0: made without a note.
+-- Admissions. status: 'PD' pending, 'AU' authorised, 'CA' cancelled.
+-- nota_vta 0: made without a note.
 create table admision (
     folio integer not null,
     fecha date,

@@ -134,7 +134,8 @@ begin
 
     if (row_count = 0) then
         exception ex_concepto
-            'El concepto ' || coalesce(p_codigo, 'sin clave') || ' no existe en la lista de precios.';
+            'El concepto ' || coalesce(p_codigo, 'sin clave')
+            || ' no existe en la lista de precios.';
 end^
 
 -- A treatment charged to a dossier.

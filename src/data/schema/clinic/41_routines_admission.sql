@@ -46,8 +46,8 @@ begin
        and c.folioad <= :p_folio;
 end^
 
--- The patient of a folio. Names are searched with like, so they are trimmed and never NULL; all else
--- stands as given, because the admission screen tells empty from NULL.
+-- The patient of a folio. Names are searched with like, so they are trimmed and never NULL; all
+-- else stands as given, because the admission screen tells empty from NULL.
 create procedure kdregistra_datosgenerales_p (
     folio integer,
     paterno varchar(40),

@@ -20,8 +20,8 @@ begin
     end
 end^
 
--- The admission that a note made in a campus, with all that hangs on its folio, unless a dossier was
--- opened on it. The folio is not given back.
+-- The admission that a note made in a campus, with all that hangs on its folio, unless a dossier
+-- was opened on it. The folio is not given back.
 create procedure kdborraradmision (num_caja integer, nota_vta integer, ciudad varchar(3))
 as
     declare folio integer;

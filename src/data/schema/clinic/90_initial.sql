@@ -19,8 +19,8 @@ insert into controlusuarios (
     usuario, pass, nombre, nombrecorto, acceso, centro, turno, autoriza, campus, num_caja, origen,
     mpo)
 values (
-    'admin', 'admin', 'ADMINISTRADOR DEL SISTEMA', 'ADMINISTRADOR', 'AM', '', 'CO', 'admin', '1', '0',
-    'VAN', 1);
+    'admin', 'admin', 'ADMINISTRADOR DEL SISTEMA', 'ADMINISTRADOR', 'AM', '', 'CO', 'admin', '1',
+    '0', 'VAN', 1);
 
 insert into usuarios_m (
     origen, centro, usuario, acceso, a3, b1, b2, b3, b4, b5, b6, b7, b8, b9, b10, b11a, b12a, c1,
