@@ -1,12 +1,11 @@
 #include "cashdesk/frm405_cash_cut.h"
 
+#include <optional>
+
+#include "app/binding.h"
 #include "cashdesk/payment_label.h"
 #include "data/runtime_texts.h"
 #include "toolkit/forms/form.h"
-
-#include "app/binding.h"
-
-#include <optional>
 
 namespace kaldo {
 
@@ -98,6 +97,7 @@ void FRM405::formCreate() {
     Generar_->setEnabled(false);
     NumeroCaja_->setVisible(false);
     Turno_->setVisible(false);
+    moveFocus(FechaCorte_);
     context().caja.DatosCaja.open({{QStringLiteral("campus"), session().Campus.text()}});
     if (isAdministrator()) {
         NumeroCaja_->setVisible(true);

@@ -16,7 +16,7 @@ struct PaidNote {
     double cheque = 0;
     double chequedll = 0;
     double tipocambio = 0;  ///< the note's own rate
-    QString status;
+    QString status = QStringLiteral("GE");
 };
 
 /// Whose cut it is decides over the labels of card payments.

@@ -25,6 +25,9 @@ std::vector<Printed> printedLines(const report::Page &page) {
         }
         const double capitals = text->style.points * 0.72 * 25.4 / 72;
         for (const report::TextLine &line : text->lines) {
+            if (line.text.trimmed().isEmpty()) {
+                continue;
+            }
             const QPointF top(line.baseline.x(), line.baseline.y() - capitals);
             lines.push_back({QRectF(top, QSizeF(line.width, capitals)), line.text});
         }
