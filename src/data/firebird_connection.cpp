@@ -1,5 +1,8 @@
 #include "data/firebird_connection.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <array>
 #include <map>
 
@@ -96,6 +99,25 @@ QByteArray databaseParameters(const FirebirdLogin &login) {
         block += static_cast<char>((login.connectTimeoutSeconds >> shift) & 0xff);
     }
     return block;
+}
+
+/// The embedded engine keeps its lock table in a folder of the machine that the first user of it
+/// owns. Another user's program gets one beside the database, before its first attach.
+void chooseLockFolder(const QString &database) {
+#ifdef Q_OS_UNIX
+    const QFileInfo shared(QStringLiteral("/tmp/firebird"));
+    const bool embedded = QFileInfo(database).isAbsolute();
+    if (!embedded || qEnvironmentVariableIsSet("FIREBIRD_LOCK") || !shared.exists() ||
+        shared.isWritable()) {
+        return;
+    }
+    const QString own = QFileInfo(database).absolutePath() + QLatin1String("/.lock");
+    if (QDir().mkpath(own)) {
+        qputenv("FIREBIRD_LOCK", QFile::encodeName(own));
+    }
+#else
+    Q_UNUSED(database);
+#endif
 }
 
 class FirebirdResultSet final : public ResultSet {
@@ -308,6 +330,7 @@ void FirebirdConnection::open() {
     if (isOpen()) {
         return;
     }
+    chooseLockFolder(database());
     auto attachment = std::make_shared<FirebirdAttachment>(name());
     attachment->attach(database(), login_);
     attachment_ = std::move(attachment);
