@@ -20,14 +20,14 @@ std::function<void(MoneyField *)> enlarged(double scale, bool bold) {
 /// What the cashier types.
 auto tender(MoneyField **where, const QString &name, const QString &caption) {
     auto item = form::money(where, name, caption);
-    item.with(enlarged(1.3, false));
+    item.with(enlarged(1.3, false)).fill();
     return item;
 }
 
 /// What the dialog works out; the larger, the more it matters.
 auto amount(MoneyField **where, const QString &name, const QString &caption, double scale = 1.3) {
     auto item = form::money(where, name, caption);
-    item.with(enlarged(scale, scale > 1.3)).readOnly();
+    item.with(enlarged(scale, scale > 1.3)).readOnly().fill();
     return item;
 }
 
@@ -93,7 +93,7 @@ form::Item FRM401_3::totalItems() {
     return column({
         amount(&CEdit1_, "CEdit1", "Importe Total"),
         panel(&PanelPrestacion_, "PanelPrestacion",
-              row({label(&LabelPrestacion_, "LabelPrestacion", "Prestación"), stretch(),
+              row({label(&LabelPrestacion_, "LabelPrestacion", "Prestación"),
                    amount(&CEdit11_, "CEdit11", "").accessible("Prestación")})),
         panel(&PanelAnticipo_, "PanelAnticipo",
               column({
@@ -139,6 +139,12 @@ void FRM401_3::build() {
     for (MoneyField *box : tenderBoxes()) {
         box->setKeyHandler(Qt::Key_Up, [this, box] { focusTender(box, -1); });
         box->setKeyHandler(Qt::Key_Down, [this, box] { focusTender(box, 1); });
+    }
+    for (const char *heading : {"CEdit8_label", "CEdit9_label", "CEdit10_label"}) {
+        auto *caption = findChild<QLabel *>(QLatin1String(heading));
+        QFont font = caption->font();
+        font.setBold(true);
+        caption->setFont(font);
     }
     // The boxes stay where they are when a panel comes or goes.
     for (QWidget *panel : {static_cast<QWidget *>(RadioGroup2_), PanelCheque_}) {

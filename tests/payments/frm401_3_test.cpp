@@ -60,7 +60,10 @@ protected:
         station.messages.expectInformation(kChooseCard);
         typeText("5");
         EXPECT_EQ(focused(), "RadioGroup2_0");
-        press(debit ? Qt::Key_Space : Qt::Key_Down);
+        if (!debit) {
+            press(Qt::Key_Right);
+        }
+        press(Qt::Key_Return);
         EXPECT_EQ(focused(), "CEdit2");
         typeText(amount);
     }
@@ -182,7 +185,7 @@ TEST_F(PaymentForm, AChequePaysAlone) {
         press(Qt::Key_Return);
         child<QRadioButton>(&form, "RadioGroup1_0")->setFocus();
         test::settle();
-        press(Qt::Key_Down);
+        press(Qt::Key_Right);
         EXPECT_EQ(focused(), "Edit1");
         EXPECT_EQ(shown("CEdit4"), "$0.00");
         EXPECT_EQ(shown("CEdit9"), "$0.00");
@@ -218,10 +221,10 @@ TEST_F(PaymentForm, AChequePaysAlone) {
 TEST_F(PaymentForm, BackToCashForgetsTheCheque) {
     const Payment payment = pay(noteOf(500), [&] {
         child<QRadioButton>(&form, "RadioGroup1_0")->setFocus();
-        press(Qt::Key_Down);
+        press(Qt::Key_Right);
         typeText("banco");
         child<QRadioButton>(&form, "RadioGroup1_1")->setFocus();
-        press(Qt::Key_Up);
+        press(Qt::Key_Left);
         EXPECT_EQ(focused(), "CEdit4");
         EXPECT_FALSE(child<QWidget>(&form, "CEdit5")->isEnabled());
         typeText("500");
@@ -272,7 +275,7 @@ TEST_F(PaymentForm, WhatIsNoAmountStaysInItsBox) {
             EXPECT_EQ(focused(), "CEdit4") << text;
             EXPECT_EQ(shown("CEdit4"), text);
             EXPECT_FALSE(canAccept()) << text;
-            press(Qt::Key_Tab);
+            press(Qt::Key_Tab, Qt::ShiftModifier);
             EXPECT_EQ(focused(), "CEdit4") << text;
         }
         press(Qt::Key_A, Qt::ControlModifier);
