@@ -70,6 +70,18 @@ void NamedQuery::addLookup(const QString &field, const QString &key, NamedQuery 
 }
 
 void NamedQuery::open(const Parameters &values) {
+    start(values);
+    fetchPage(firstPage);
+    announceOpening();
+}
+
+void NamedQuery::openToAppend(const Parameters &values) {
+    start(values);
+    result_.reset();
+    announceOpening();
+}
+
+void NamedQuery::start(const Parameters &values) {
     for (const auto &[name, value] : values) {
         const auto known = std::find_if(values_.begin(), values_.end(), [&name](const auto &pair) {
             return pair.first.compare(name, Qt::CaseInsensitive) == 0;
@@ -97,7 +109,9 @@ void NamedQuery::open(const Parameters &values) {
     }
     state_ = State::Browsing;
     endResetModel();
-    fetchPage(firstPage);
+}
+
+void NamedQuery::announceOpening() {
     setCurrent(rows_.empty() ? -1 : 0);
     emit opened();
     emit stateChanged();

@@ -67,6 +67,8 @@ public:
 
     /// Closes, and opens with these values; values not given keep what they were bound to.
     void open(const Parameters &values = {});
+    /// Opens without fetching a row: for who only appends to a table that others fill as well.
+    void openToAppend(const Parameters &values = {});
     /// Opens again with the values of the last opening; the cursor is on the first row.
     void reopen() { open(); }
     void close();
@@ -145,6 +147,8 @@ private:
 
     int columnOf(const QString &field) const;
     int requireColumn(const QString &field) const;
+    void start(const Parameters &values);
+    void announceOpening();
     QVariant lookUp(const Lookup &lookup, int row) const;
     void fetchPage(int rows);
     void calculate(Row &row) const;
