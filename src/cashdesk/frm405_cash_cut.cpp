@@ -68,6 +68,7 @@ void FRM405::buildForm() {
         this,
         column({
             date(&FechaCorte_, QStringLiteral("FechaCorte"), QStringLiteral("Fecha Corte"))
+                .enter([this] { confirmarFecha(); })
                 .leave([this] { salirFecha(); })
                 .with([this](DateField *field) {
                     connectGuarded(field, &DateField::calendarClosed, this,
@@ -136,6 +137,14 @@ void FRM405::salirFecha() {
         revisarMovimientos();
     } else if (isAdministrator() && NumeroCaja_->row() >= 0 && Turno_->currentIndex() >= 0) {
         revisarMovimientos();
+    }
+}
+
+void FRM405::confirmarFecha() {
+    // With the button off there is nowhere to go, and the date would never be left.
+    if (!isAdministrator() && !Generar_->isEnabled()) {
+        salirFecha();
+        moveFocus(Generar_->isEnabled() ? static_cast<QWidget *>(Generar_) : FechaCorte_);
     }
 }
 

@@ -34,6 +34,7 @@ private:
     bool isAdministrator() const;
     void elegirCaja();
     void cerrarTurno();
+    void confirmarFecha();
     void salirFecha();
     void revisarMovimientos();
 
