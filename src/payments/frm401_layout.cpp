@@ -70,14 +70,15 @@ void retainRoom(QWidget *widget) {
 
 void FRM401::buildForm() {
     using namespace form;
-    build(this, column({headingItems(), serviceItems(), patientItems(), linesItems(),
-                        totalsItems()}));
+    build(this,
+          column({headingItems(), serviceItems(), patientItems(), linesItems(), totalsItems()}));
     keepRoomWhenHidden();
     bindLookup(ComboBox2_, &context().odonto.serviciosxctros);
     bindLookup(ComboBox3_, &context().odonto.AreaAtencion);
     bindLookup(listaExpedientes_, &context().odonto.CargarExp);
     bindGrid(grid_, &context().local.FBDetalleVtas);
     wireGrid();
+    prestacionLabel_ = findChild<QLabel *>(QStringLiteral("CEdit1_label"));
     RadioGroup1_->setOptionEnabled(int(NoteMode::Consultar), false);
 
     const auto shortcut = [this](const QKeySequence &keys, Button *target) {
@@ -96,26 +97,24 @@ form::Item FRM401::headingItems() {
     const auto value = [](QLabel **where, const char *name) {
         return label(where, QString::fromLatin1(name)).bold();
     };
-    return row(
-        {panel(nullptr, QStringLiteral("PanelEncabezado"),
-               column({row({caption("Cajero:"), value(&cajero_, "Cajero"), stretch()}),
-                       row({caption("Centro:"), value(&centro_, "Centro"), stretch()})})),
-         panel(nullptr, QStringLiteral("PanelTurno"),
-               column({row({caption("Turno:"), value(&turno_, "Turno"), stretch()}),
-                       row({caption("Caja:"), value(&caja_, "Caja"), stretch()})})),
-         stretch(),
-         radio(&RadioGroup1_, QStringLiteral("RadioGroup1"), QStringLiteral("Selecciona"))
-             .options({QStringLiteral("Registrar"), QStringLiteral("Consultar")})
-             .with([](RadioGroup *group) { group->setFocusPolicy(Qt::NoFocus); })
-             .clicked([this](int) { RadioGroup1Click(); }),
-         text(&Edit1_, QStringLiteral("Edit1"), QStringLiteral("Nota de Pago"))
-             .digits()
-             .width(10)
-             .readOnly()
-             .above(),
-         date(&DateEdit1_, QStringLiteral("DateEdit1"), QStringLiteral("Fecha"))
-             .readOnly()
-             .above()});
+    return row({panel(nullptr, QStringLiteral("PanelEncabezado"),
+                      column({row({caption("Cajero:"), value(&cajero_, "Cajero"), stretch()}),
+                              row({caption("Centro:"), value(&centro_, "Centro"), stretch()})})),
+                panel(nullptr, QStringLiteral("PanelTurno"),
+                      column({row({caption("Turno:"), value(&turno_, "Turno"), stretch()}),
+                              row({caption("Caja:"), value(&caja_, "Caja"), stretch()})})),
+                stretch(),
+                radio(&RadioGroup1_, QStringLiteral("RadioGroup1"), QStringLiteral("Selecciona"))
+                    .options({QStringLiteral("Registrar"), QStringLiteral("Consultar")})
+                    .clicked([this](int) { RadioGroup1Click(); }),
+                text(&Edit1_, QStringLiteral("Edit1"), QStringLiteral("Nota de Pago"))
+                    .digits()
+                    .width(10)
+                    .readOnly()
+                    .above(),
+                date(&DateEdit1_, QStringLiteral("DateEdit1"), QStringLiteral("Fecha"))
+                    .readOnly()
+                    .above()});
 }
 
 form::Item FRM401::serviceItems() {
@@ -129,14 +128,14 @@ form::Item FRM401::serviceItems() {
                                   QStringLiteral("Clasif. del Servicio")))
              .closedUp([this] { elegirArea(); })
              .grow(),
-         strip(&panelLugar_, QStringLiteral("PanelLugar"),
-               {lookup(&ComboBox3_, QStringLiteral("ComboBox3"),
-                       QStringLiteral("Lugar de Atención"))
-                    .source(descriptions(&context().odonto.AreaAtencion, QStringLiteral("AREA"),
-                                         QStringLiteral("Lugar de Atención")))
-                    .closedUp([this] { elegirLugar(); })
-                    .above()
-                    .grow()})
+         strip(
+             &panelLugar_, QStringLiteral("PanelLugar"),
+             {lookup(&ComboBox3_, QStringLiteral("ComboBox3"), QStringLiteral("Lugar de Atención"))
+                  .source(descriptions(&context().odonto.AreaAtencion, QStringLiteral("AREA"),
+                                       QStringLiteral("Lugar de Atención")))
+                  .closedUp([this] { elegirLugar(); })
+                  .above()
+                  .grow()})
              .grow()});
 }
 
@@ -186,48 +185,46 @@ form::Item FRM401::patientItems() {
                       .width(70)
                       .enter([this] { enterNombre(); })
                       .grow()});
-    const Item student = strip(
-        &panelAlumno_, QStringLiteral("PanelAlumno"),
-        {text(&matricula_, QStringLiteral("Matricula"), QStringLiteral("Matricula"))
-             .digits()
-             .width(10)
-             .enter([this] { buscarAlumno(); })
-             .changed([this] { agregar_->setEnabled(false); }),
-         text(&alumno_, QStringLiteral("Alumno"), QStringLiteral("Alumno"))
-             .width(100)
-             .readOnly()
-             .grow()});
-    const Item employee = strip(
-        &panelNoEmpleado_, QStringLiteral("PanelNoEmpleado"),
-        {text(&noEmpleado_, QStringLiteral("NoEmpleado"), QStringLiteral("No. Empleado"))
-             .digits()
-             .width(10)
-             .enter([this] { buscarEmpleado(); }),
-         text(&nombreEmpleado_, QStringLiteral("NombreEmpleado"), QStringLiteral("Nombre"))
-             .width(100)
-             .readOnly()
-             .grow()});
-    const Item birth = strip(
-        &panelNacimiento_, QStringLiteral("PanelNacimiento"),
-        {date(&DateEdit2_, QStringLiteral("DateEdit2"), QStringLiteral("Fec. de Nacimiento"))
-             .leave([this] { leaveNacimiento(); }),
-         text(&edad_, QStringLiteral("Edad"), QStringLiteral("Edad")).width(3).readOnly(),
-         radio(&sexo_, QStringLiteral("RadioGroup2"), QStringLiteral("Sexo"))
-             .options({QStringLiteral("Femenino"), QStringLiteral("Masculino")})
-             .clicked([this](int) { elegirSexo(); }),
-         stretch()});
-    const Item benefit =
-        strip(&panelEmpleado_, QStringLiteral("PanelEmpleado"),
-              {label(QStringLiteral("Empleado:")),
-               label(&empleado_, QStringLiteral("Empleado")).bold(),
-               label(QStringLiteral("Dependencia:")),
-               label(&dependencia_, QStringLiteral("Dependencia")).bold(), stretch()});
+    auto student =
+        strip(&panelAlumno_, QStringLiteral("PanelAlumno"),
+              {text(&matricula_, QStringLiteral("Matricula"), QStringLiteral("Matricula"))
+                   .digits()
+                   .width(10)
+                   .enter([this] { buscarAlumno(); })
+                   .changed([this] { agregar_->setEnabled(false); }),
+               text(&alumno_, QStringLiteral("Alumno"), QStringLiteral("Alumno"))
+                   .width(100)
+                   .readOnly()
+                   .grow()});
+    auto employee =
+        strip(&panelNoEmpleado_, QStringLiteral("PanelNoEmpleado"),
+              {text(&noEmpleado_, QStringLiteral("NoEmpleado"), QStringLiteral("No. Empleado"))
+                   .digits()
+                   .width(10)
+                   .enter([this] { buscarEmpleado(); }),
+               text(&nombreEmpleado_, QStringLiteral("NombreEmpleado"), QStringLiteral("Nombre"))
+                   .width(100)
+                   .readOnly()
+                   .grow()});
+    auto birth =
+        strip(&panelNacimiento_, QStringLiteral("PanelNacimiento"),
+              {date(&DateEdit2_, QStringLiteral("DateEdit2"), QStringLiteral("Fec. de Nacimiento"))
+                   .leave([this] { leaveNacimiento(); }),
+               text(&edad_, QStringLiteral("Edad"), QStringLiteral("Edad")).width(3).readOnly(),
+               radio(&sexo_, QStringLiteral("RadioGroup2"), QStringLiteral("Sexo"))
+                   .options({QStringLiteral("Femenino"), QStringLiteral("Masculino")})
+                   .clicked([this](int) { elegirSexo(); }),
+               stretch()});
+    auto benefit = strip(
+        &panelEmpleado_, QStringLiteral("PanelEmpleado"),
+        {label(QStringLiteral("Empleado:")), label(&empleado_, QStringLiteral("Empleado")).bold(),
+         label(QStringLiteral("Dependencia:")),
+         label(&dependencia_, QStringLiteral("Dependencia")).bold(), stretch()});
     // Enabled and disabled as one for the path of the service; the birth strip and the employee's
     // benefit never stand together and share their row.
     return column(
         {panel(&panelPaciente_, QStringLiteral("PanelPaciente"), column({dossier, names})).fill(),
-         panel(&panelOtros_, QStringLiteral("PanelOtros"),
-               row({student.grow(), employee.grow()}))
+         panel(&panelOtros_, QStringLiteral("PanelOtros"), row({student.grow(), employee.grow()}))
              .fill(),
          panel(&panelDatos_, QStringLiteral("PanelDatos"), row({birth.grow(), benefit.grow()}))
              .fill()});
@@ -242,25 +239,24 @@ form::Item FRM401::linesItems() {
             .hint(QString::fromUtf8(hint))
             .clicked([this, handler] { (this->*handler)(); });
     };
-    return column(
-        {row({rowButton(&agregar_, "AgregarRegistro", "A&gregar Registro", "insert",
-                        "Agregar Registro (Insert)", &FRM401::agregarRegistro),
-              rowButton(&borrar_, "BorrarRegistro", "&Borrar Registro", "delete",
-                        "Borrar Registro (Ctrl+Supr)", &FRM401::borrarRegistro),
-              rowButton(&grabar_, "GrabarInformacion", "Grabar &Información", "save",
-                        "Grabar Información", &FRM401::grabarInformacion),
-              rowButton(&cancelar_, "CancelarRegistro", "Ca&ncelar Registro", "undo",
-                        "Cancelar Registro (Esc)", &FRM401::cancelarRegistro)
-                  .escape(),
-              stretch()}),
-         grid(&grid_, QStringLiteral("Detalle"))
-             .accessible(QStringLiteral("Conceptos de la nota"))
-             .hint(QStringLiteral("Doble clic o F6: Descripción Adicional"))
-             .columns(lineColumns())
-             .enterColumn([this](const QString &field) { enterColumn(field); })
-             .key(Qt::Key_F6, [this] { descripcionAdicional(); })
-             .fill()
-             .grow()});
+    return column({row({rowButton(&agregar_, "AgregarRegistro", "A&gregar Registro", "insert",
+                                  "Agregar Registro (Insert)", &FRM401::agregarRegistro),
+                        rowButton(&borrar_, "BorrarRegistro", "&Borrar Registro", "delete",
+                                  "Borrar Registro (Ctrl+Supr)", &FRM401::borrarRegistro),
+                        rowButton(&grabar_, "GrabarInformacion", "Grabar &Información", "save",
+                                  "Grabar Información", &FRM401::grabarInformacion),
+                        rowButton(&cancelar_, "CancelarRegistro", "Ca&ncelar Registro", "undo",
+                                  "Cancelar Registro (Esc)", &FRM401::cancelarRegistro)
+                            .escape(),
+                        stretch()}),
+                   grid(&grid_, QStringLiteral("Detalle"))
+                       .accessible(QStringLiteral("Conceptos de la nota"))
+                       .hint(QStringLiteral("Doble clic o F6: Descripción Adicional"))
+                       .columns(lineColumns())
+                       .enterColumn([this](const QString &field) { enterColumn(field); })
+                       .key(Qt::Key_F6, [this] { descripcionAdicional(); })
+                       .fill()
+                       .grow()});
 }
 
 form::Item FRM401::totalsItems() {
@@ -271,32 +267,29 @@ form::Item FRM401::totalsItems() {
             .readOnly()
             .above();
     };
-    return row(
-        {panel(nullptr, QStringLiteral("PanelBotones"),
-               row({button(&registrar_, QStringLiteral("Registrar"),
-                           QStringLiteral("&Registrar Información"))
-                        .icon(QStringLiteral("accept"))
-                        .clicked([this] { registrarInformacion(); }),
-                    button(&formaPagoButton_, QStringLiteral("FormaPago"),
-                           QStringLiteral("&Forma de Pago"))
-                        .icon(QStringLiteral("pay"))
-                        .disabled(),
-                    button(&cerrar_, QStringLiteral("Cerrar"), QStringLiteral("&Cerrar"))
-                        .icon(QStringLiteral("close"))
-                        .escape()
-                        .clicked([this] { emit closeRequested(); })})),
-         stretch(),
-         strip(&panelAnticipo_, QStringLiteral("PanelAnticipo"),
-               {amount(&CEdit0_, "CEdit0", "Pago de Anticipo")}),
-         amount(&subtotal_, "SubTotal", "SubTotal"),
-         amount(&CEdit1_, "CEdit1", "Prestación")
-             .with([this](MoneyField *) {}),
-         amount(&CEdit2_, "CEdit2", "IVA"),
-         amount(&CEdit3_, "CEdit3", "Importe Total").with([](MoneyField *field) {
-             QFont font = field->font();
-             font.setBold(true);
-             field->setFont(font);
-         })});
+    return row({panel(nullptr, QStringLiteral("PanelBotones"),
+                      row({button(&registrar_, QStringLiteral("Registrar"),
+                                  QStringLiteral("&Registrar Información"))
+                               .icon(QStringLiteral("accept"))
+                               .clicked([this] { registrarInformacion(); }),
+                           button(&formaPagoButton_, QStringLiteral("FormaPago"),
+                                  QStringLiteral("&Forma de Pago"))
+                               .icon(QStringLiteral("pay"))
+                               .disabled(),
+                           button(&cerrar_, QStringLiteral("Cerrar"), QStringLiteral("&Cerrar"))
+                               .icon(QStringLiteral("close"))
+                               .escape()
+                               .clicked([this] { emit closeRequested(); })})),
+                stretch(),
+                strip(&panelAnticipo_, QStringLiteral("PanelAnticipo"),
+                      {amount(&CEdit0_, "CEdit0", "Pago de Anticipo")}),
+                amount(&subtotal_, "SubTotal", "SubTotal"),
+                amount(&CEdit1_, "CEdit1", "Prestación"), amount(&CEdit2_, "CEdit2", "IVA"),
+                amount(&CEdit3_, "CEdit3", "Importe Total").with([](MoneyField *field) {
+                    QFont font = field->font();
+                    font.setBold(true);
+                    field->setFont(font);
+                })});
 }
 
 void FRM401::keepRoomWhenHidden() {

@@ -3,7 +3,6 @@
 #include <QLabel>
 
 #include <memory>
-#include <vector>
 
 #include "app/screen.h"
 #include "payments/frm401_4_additional_description.h"
@@ -14,6 +13,7 @@ namespace kaldo {
 
 class FRM401_3;
 class FRMAlumnos;
+class Registration;
 
 /// "Registro Pagos": the screen on which a cashier writes one payment note. It identifies who
 /// pays, keeps the lines in the local working table, and registers the note through the payment
@@ -41,6 +41,7 @@ private:
     form::Item linesItems();
     form::Item totalsItems();
     void keepRoomWhenHidden();
+    void wireGrid();
 
     // Opening, mode and resets
     void Combo();
@@ -50,8 +51,12 @@ private:
     void Limpiar1();
     void Habilitar();
     void clearCounters();
+    void clearPayer();
     void LimpiarTabla();
     void setListsEnabled(bool enabled);
+    void showStrip(QWidget *strip, bool show);
+    bool empresarial() const;
+    bool educativo() const;
 
     // Service type, sales area, place of care
     void elegirTipoServicio();
@@ -59,13 +64,16 @@ private:
     void elegirArea();
     void elegirLugar();
     void ClasServicios();
+    void abrirExpediente();
     void identifyByDossier();
     void identifyByNames();
     void identifyByStudent();
     void identifyEmployeeOrStudent();
     void openPatientType(int prestacion);
     void openPriceList();
-    bool areaIs(const QString &descr) const;
+    void openPriceListForAge(int edad);
+    void showPriceList();
+    int tipoProd() const;
 
     // The dossier
     void buscarExpediente();
@@ -73,13 +81,18 @@ private:
     bool expedienteDeEsteCentro();
     bool edadCorresponde();
     void DatosExpediente();
-    bool empleadoVigenteDelExpediente();
-    void takeDossierNames();
+    bool takeEmployeeOfDossier();
+    void takeDossierData();
+    bool useDossier();
     void CargarPrestacion();
     void LimpiaEmpleado();
     void consultarExpedientes();
     void tomarExpediente();
     void hideDossierList();
+    void cancelarLista();
+    void repetirExpediente();
+    void forgetDossier();
+    void refuseDossier();
     void alternarFiltro();
 
     // The payer
@@ -91,10 +104,10 @@ private:
     void elegirSexo();
     void buscarAlumno();
     void elegirAlumno(const QString &heading);
+    void buscarPosgrado();
     void studentFound(const QString &nombre);
     void ValidaPrestamo();
     void buscarEmpleado();
-    void showEmployee(int numEmpleado, const QString &empleado, const QString &dependencia);
 
     // The lines
     void agregarRegistro();
@@ -109,6 +122,10 @@ private:
     void enterCantidad();
     void enterPrecio();
     void takeConcept();
+    bool claveVacia() const;
+    bool cantidadCabe();
+    void showTotals();
+    void stayInColumn(const QString &field);
     void clearClave();
     void readyForLines();
     void descripcionAdicional();
@@ -121,6 +138,7 @@ private:
     FRM401_3 &formaPago_;
     FRMAlumnos &alumnos_;
     FRM401_4 descripcionAdicional_;
+    std::unique_ptr<Registration> registration_;
 
     // Queries whose text this screen rebuilds.
     std::unique_ptr<NamedQuery> Expe_;
@@ -142,7 +160,8 @@ private:
     bool NombreRepetido_ = false;
     bool PrestamoValido_ = false;
     bool PrestamoPendiente_ = false;
-    bool sexPicked_ = false;
+    bool claveRechazada_ =
+        false;  ///< the key typed last was cleared: the same Enter goes no further
 
     // Heading
     QLabel *cajero_ = nullptr;
@@ -177,6 +196,8 @@ private:
     TextField *edad_ = nullptr;
     RadioGroup *sexo_ = nullptr;
 
+    QWidget *panelOtros_ = nullptr;  ///< the row of student and employee number
+    QWidget *panelDatos_ = nullptr;  ///< the row of birth date and of the employee's data
     QWidget *panelAlumno_ = nullptr;
     TextField *matricula_ = nullptr;
     TextField *alumno_ = nullptr;
@@ -194,7 +215,7 @@ private:
     Button *grabar_ = nullptr;
     Button *cancelar_ = nullptr;
     DataGrid *grid_ = nullptr;
-    QLabel *subtotalLabel_ = nullptr;
+    MoneyField *subtotal_ = nullptr;
     QWidget *panelAnticipo_ = nullptr;
     MoneyField *CEdit0_ = nullptr;
     QLabel *prestacionLabel_ = nullptr;
