@@ -74,7 +74,7 @@ void Choice::setFieldReadOnly(bool readOnly) {
 
 void Choice::showPopup() {
     open_ = true;
-    // Behind the list's own filter, which picks on every Enter.
+    // Installed last, it comes before the list's own filter, which picks on every Enter.
     view()->removeEventFilter(this);
     QComboBox::showPopup();
     view()->installEventFilter(this);
@@ -86,9 +86,11 @@ void Choice::hidePopup() {
 }
 
 bool Choice::eventFilter(QObject *watched, QEvent *event) {
-    if (event->type() == QEvent::KeyPress) {
+    // The list picks as early as the question whether Enter is a shortcut.
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
         const auto &key = *static_cast<QKeyEvent *>(event);
         if (isEnter(key) && key.isAutoRepeat()) {
+            event->accept();
             return true;
         }
     }
@@ -125,6 +127,7 @@ void RadioGroup::setOptions(const QStringList &options, Qt::Orientation orientat
         button->setObjectName(QStringLiteral("%1_%2").arg(objectName()).arg(i));
         buttons_->addButton(button, i);
         watchPart(button);
+        button->installEventFilter(this);
         line->addWidget(button);
     }
     line->addStretch();
@@ -176,6 +179,29 @@ void RadioGroup::setFieldReadOnly(bool readOnly) {
     }
 }
 
+bool RadioGroup::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
+        if (forward || key == Qt::Key_Left || key == Qt::Key_Up) {
+            // The buttons themselves only move the focus while none is chosen.
+            int next = buttons_->id(static_cast<QAbstractButton *>(watched));
+            do {
+                next += forward ? 1 : -1;
+            } while (buttons_->button(next) && !buttons_->button(next)->isEnabled());
+            if (!buttons_->button(next) && index() < 0) {
+                next = buttons_->id(static_cast<QAbstractButton *>(watched));
+            }
+            if (QAbstractButton *button = buttons_->button(next)) {
+                button->setFocus(Qt::OtherFocusReason);
+                button->click();
+            }
+            return true;
+        }
+    }
+    return QGroupBox::eventFilter(watched, event);
+}
+
 void RadioGroup::updateProxy() {
     QAbstractButton *target = buttons_->checkedButton();
     setFocusProxy(target ? target : buttons_->button(0));
@@ -190,7 +216,7 @@ void CheckField::setFieldReadOnly(bool readOnly) {
 
 Memo::Memo(QWidget *parent) : QPlainTextEdit(parent), Field(this) {
     setTabChangesFocus(true);
-    setLines(3);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     connect(document(), &QTextDocument::contentsChange, this, [this](int at, int, int added) {
         changedAt_ = at;
         added_ = added;
@@ -207,8 +233,17 @@ void Memo::setCharacters(int characters) {
 }
 
 void Memo::setLines(int lines) {
+    lines_ = lines;
+    updateGeometry();
+}
+
+QSize Memo::sizeHint() const {
     const int margins = int(2 * document()->documentMargin()) + 2 * frameWidth();
-    setMinimumHeight(fontMetrics().lineSpacing() * lines + margins + 2);
+    return {QPlainTextEdit::sizeHint().width(), fontMetrics().lineSpacing() * lines_ + margins + 2};
+}
+
+QSize Memo::minimumSizeHint() const {
+    return {QPlainTextEdit::minimumSizeHint().width(), sizeHint().height()};
 }
 
 void Memo::setFieldReadOnly(bool readOnly) {

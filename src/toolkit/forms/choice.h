@@ -71,6 +71,9 @@ public:
 signals:
     void clicked(int index);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void updateProxy();
 
@@ -96,7 +99,10 @@ public:
 
     void setUpperCase(bool upper);
     void setCharacters(int characters);
+    /// Lines that are shown; three unless told.
     void setLines(int lines);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     QString text() const { return toPlainText(); }
     void setText(const QString &text) { setPlainText(text); }
 
@@ -111,6 +117,7 @@ private:
 
     bool upper_ = false;
     int width_ = 0;
+    int lines_ = 3;
     int changedAt_ = 0;
     int added_ = 0;
 };

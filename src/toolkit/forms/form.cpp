@@ -81,6 +81,9 @@ void letGrow(const Node &node, QWidget *widget) {
     if (growsSideways(node, widget) || node.grow) {
         QSizePolicy policy = widget->sizePolicy();
         policy.setHorizontalPolicy(QSizePolicy::Expanding);
+        if (!growsSideways(node, widget)) {
+            policy.setVerticalPolicy(QSizePolicy::Expanding);
+        }
         widget->setSizePolicy(policy);
     }
 }

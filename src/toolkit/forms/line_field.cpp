@@ -269,11 +269,9 @@ void MaskedField::normalise(QString *text, int *position) const {
 }
 
 void MaskedField::focusInEvent(QFocusEvent *event) {
-    if (foreign_.isEmpty()) {
-        setText(text());
-    }
     LineField::focusInEvent(event);
-    if (digits().isEmpty()) {
+    if (text().isEmpty() && !isReadOnly()) {
+        setText(mask_);
         deselect();
         setCursorPosition(int(mask_.indexOf(QLatin1Char(' '))));
     }
