@@ -4,7 +4,7 @@ namespace kaldo {
 
 namespace {
 
-/// Room for the largest amount, "$999,999,999.99".
+/// Room for the largest amount, "$999,999,999.99", in bold.
 constexpr int kAmountCharacters = 15;
 
 std::function<void(MoneyField *)> enlarged(double scale, bool bold) {
@@ -14,13 +14,14 @@ std::function<void(MoneyField *)> enlarged(double scale, bool bold) {
         font.setBold(bold);
         box->setFont(font);
         box->setShownCharacters(kAmountCharacters);
+        box->setMinimumWidth(box->sizeHint().width());
     };
 }
 
 /// What the cashier types.
 auto tender(MoneyField **where, const QString &name, const QString &caption) {
     auto item = form::money(where, name, caption);
-    item.with(enlarged(1.3, false)).fill();
+    item.with(enlarged(1.3, false));
     return item;
 }
 
@@ -29,6 +30,22 @@ auto amount(MoneyField **where, const QString &name, const QString &caption, dou
     auto item = form::money(where, name, caption);
     item.with(enlarged(scale, scale > 1.3)).readOnly().fill();
     return item;
+}
+
+/// Panels keep columns of their own; their boxes shall stand under those of the group all the same.
+void alignLabels(QWidget *group) {
+    QList<QLabel *> captions;
+    int width = 0;
+    for (QLabel *label : group->findChildren<QLabel *>()) {
+        if (label->objectName().endsWith(QLatin1String("_label")) ||
+            label->objectName() == QLatin1String("LabelPrestacion")) {
+            captions.append(label);
+            width = std::max(width, label->sizeHint().width());
+        }
+    }
+    for (QLabel *label : captions) {
+        label->setMinimumWidth(width);
+    }
 }
 
 }  // namespace
@@ -49,22 +66,22 @@ form::Item FRM401_3::tenderItems() {
             .clicked([this](int index) {
                 RadioGroup1Click(index == 1 ? PaymentKind::ChequeMN : PaymentKind::Efectivo);
             }),
-        tender(&CEdit2_, "CEdit2", "Tarjeta Credito")
-            .arrive([this] { llegarATarjeta(); })
-            .enter([this] { enterTarjeta(); })
-            .leave([this] { salirDeTarjeta(); }),
-        radio(&RadioGroup2_, "RadioGroup2", "Tipo de Tarjeta")
-            .options({"Débito", "Crédito"})
-            .clicked([this](int index) {
-                elegirTarjeta(index == 0 ? CardKind::Debito : CardKind::Credito);
-            })
-            .enter([this] { enterTipoDeTarjeta(); }),
+        row({tender(&CEdit2_, "CEdit2", "Tarjeta Credito")
+                 .arrive([this] { llegarATarjeta(); })
+                 .enter([this] { enterTarjeta(); })
+                 .leave([this] { salirDeTarjeta(); }),
+             radio(&RadioGroup2_, "RadioGroup2", "Tipo de Tarjeta")
+                 .options({"Débito", "Crédito"})
+                 .clicked([this](int index) {
+                     elegirTarjeta(index == 0 ? CardKind::Debito : CardKind::Credito);
+                 })
+                 .enter([this] { enterTipoDeTarjeta(); })}),
         text(&Edit12_, "Edit12", "4 Ultimos digitos").hidden().enter([this] { enterEdit12(); }),
-        tender(&CEdit3_, "CEdit3", "Dolares")
-            .arrive(blankZero(&CEdit3_))
-            .enter([this] { enterDolares(); })
-            .leave(leave),
-        row({label("Tipo de Cambio:"), label(&LabelTipoCambio_, "LabelTipoCambio").bold()}),
+        row({tender(&CEdit3_, "CEdit3", "Dolares")
+                 .arrive(blankZero(&CEdit3_))
+                 .enter([this] { enterDolares(); })
+                 .leave(leave),
+             label("Tipo de Cambio:"), label(&LabelTipoCambio_, "LabelTipoCambio").bold()}),
         tender(&CEdit4_, "CEdit4", "Pesos")
             .arrive(blankZero(&CEdit4_))
             .enter([this] { enterPesos(); })
@@ -93,18 +110,18 @@ form::Item FRM401_3::totalItems() {
     return column({
         amount(&CEdit1_, "CEdit1", "Importe Total"),
         panel(&PanelPrestacion_, "PanelPrestacion",
-              row({label(&LabelPrestacion_, "LabelPrestacion", "Prestación"),
+              row({label(&LabelPrestacion_, "LabelPrestacion", "Prestación 100 %"),
                    amount(&CEdit11_, "CEdit11", "").accessible("Prestación")})),
         panel(&PanelAnticipo_, "PanelAnticipo",
               column({
                   amount(&CEdit0_, "CEdit0", "Cantidad de Anticipo"),
                   amount(&CEdit6_, "CEdit6", "Saldo").enter([this] { Totales(); }),
               })),
-        amount(&CEdit8_, "CEdit8", "Importe a Pagar", 1.9),
+        amount(&CEdit8_, "CEdit8", "Importe a Pagar", 1.7),
         line(),
         amount(&CEdit7_, "CEdit7", "Subtotal"),
-        amount(&CEdit9_, "CEdit9", "Diferencia", 1.6),
-        amount(&CEdit10_, "CEdit10", "Cambio", 1.9),
+        amount(&CEdit9_, "CEdit9", "Diferencia", 1.45),
+        amount(&CEdit10_, "CEdit10", "Cambio", 1.7),
         stretch(),
     });
 }
@@ -130,7 +147,7 @@ void FRM401_3::build() {
                           row({
                               group(&GroupBox1_, "GroupBox1", "Pago",
                                     column({tenderItems(), chequeItems(), stretch()})),
-                              group(nullptr, "GroupBox2", "Importes", totalItems()),
+                              group(&GroupBox2_, "GroupBox2", "Importes", totalItems()),
                           }),
                           buttonItems(),
                       }));
@@ -146,6 +163,8 @@ void FRM401_3::build() {
         font.setBold(true);
         caption->setFont(font);
     }
+    alignLabels(GroupBox1_);
+    alignLabels(GroupBox2_);
     // The boxes stay where they are when a panel comes or goes.
     for (QWidget *panel : {static_cast<QWidget *>(RadioGroup2_), PanelCheque_}) {
         QSizePolicy policy = panel->sizePolicy();

@@ -72,6 +72,7 @@ private:
     bool ready_ = false;  ///< the rate is known and the amounts are this note's
 
     QGroupBox *GroupBox1_ = nullptr;
+    QGroupBox *GroupBox2_ = nullptr;
     RadioGroup *RadioGroup1_ = nullptr;
     RadioGroup *RadioGroup2_ = nullptr;
     QWidget *PanelCheque_ = nullptr;
