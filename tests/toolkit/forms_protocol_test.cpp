@@ -75,6 +75,20 @@ TEST(EnterProtocol, MovesOnUnlessTheHandlerAskedOtherwise) {
     EXPECT_TRUE(notes.accept->hasFocus()) << "the last request wins";
 }
 
+TEST(EnterProtocol, TextTypedAheadGoesWhereTheFocusIsGoingAndEnterDoesNot) {
+    Notes notes;
+    // Outside of a handler of a field, as after a pick in a list: the move waits for the event
+    // loop.
+    moveFocus(notes.third);
+    QTest::keyClick(notes.first, Qt::Key_7);
+    EXPECT_EQ(notes.third->text(), QStringLiteral("7"));
+    moveFocus(notes.accept);
+    QTest::keyClick(notes.third, Qt::Key_Return);
+    settle();
+    EXPECT_TRUE(notes.accept->hasFocus());
+    EXPECT_FALSE(notes.log.contains("accept"));
+}
+
 TEST(EnterProtocol, PassesOverWhatCannotTakeInput) {
     Notes notes;
     notes.second->setFieldReadOnly(true);

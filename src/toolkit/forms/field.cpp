@@ -4,6 +4,7 @@
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/focus_keeper.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QHash>
 #include <QKeyEvent>
@@ -32,7 +33,7 @@ protected:
 private:
     bool keyPress(QKeyEvent *event);
     bool runKey(QKeyEvent *event);
-    bool forwardKey(QKeyEvent *event);
+    void forwardKey(const QKeyEvent *event);
     void focusIn(const QFocusEvent &event);
     void focusOut(const QFocusEvent &event);
     void postLeave();
@@ -88,12 +89,17 @@ bool FieldEvents::eventFilter(QObject *watched, QEvent *event) {
 
 bool FieldEvents::keyPress(QKeyEvent *event) {
     const QPointer<FieldEvents> self(this);
-    const QPointer<QWidget> receiver(widget_);
     const bool had = hasFocus();
-    FocusKeeper::get().settle();
-    if (!self || (had && !hasFocus())) {
-        // What was waiting took the focus away. A box may have been shown: Enter and the keys of
-        // the old field are not for whatever is there now.
+    const bool sentBack = FocusKeeper::get().settle();
+    if (!self) {
+        return true;
+    }
+    if (had && !hasFocus()) {
+        // The focus was on its way when the key came. Text typed ahead goes where it was meant;
+        // Enter does not: it must press nothing that the eye has not seen.
+        if (!sentBack && !isEnter(*event)) {
+            forwardKey(event);
+        }
         return true;
     }
     if (runKey(event)) {
@@ -110,6 +116,14 @@ bool FieldEvents::keyPress(QKeyEvent *event) {
     }
     pressEnter();
     return true;
+}
+
+void FieldEvents::forwardKey(const QKeyEvent *event) {
+    if (QWidget *now = widget_->window()->focusWidget()) {
+        QKeyEvent copy(event->type(), event->key(), event->modifiers(), event->text(),
+                       event->isAutoRepeat());
+        QCoreApplication::sendEvent(now, &copy);
+    }
 }
 
 bool FieldEvents::runKey(QKeyEvent *event) {

@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+#include <utility>
+
 namespace kaldo {
 
 namespace {
@@ -17,6 +19,8 @@ bool canTakeFocus(QWidget *widget) {
 }
 
 void giveFocus(QWidget *widget) {
+    // The focus goes by keys here: buttons and lists show it as after a Tab.
+    widget->window()->setAttribute(Qt::WA_KeyboardFocusChange);
     if (auto *group = qobject_cast<RadioGroup *>(widget)) {
         group->focusChoice(Qt::TabFocusReason);
         return;
@@ -46,7 +50,8 @@ FocusKeeper &FocusKeeper::get() {
     return *static_cast<FocusKeeper *>(found);
 }
 
-FocusKeeper::Scope::Scope(QWidget *field, Kind kind) : form_(formOf(field)), kind_(kind) {
+FocusKeeper::Scope::Scope(QWidget *field, Kind kind)
+    : form_(formOf(field)), focus_(field->window()->focusWidget()), kind_(kind) {
     FocusKeeper &keeper = FocusKeeper::get();
     outer_ = keeper.scope_;
     keeper.scope_ = this;
@@ -55,6 +60,9 @@ FocusKeeper::Scope::Scope(QWidget *field, Kind kind) : form_(formOf(field)), kin
 FocusKeeper::Scope::~Scope() {
     FocusKeeper &keeper = FocusKeeper::get();
     keeper.carryOut(form_);
+    if (kind_ == Kind::Leave && form_ && form_->window()->focusWidget() != focus_) {
+        keeper.sentBack_ = true;
+    }
     keeper.scope_ = outer_;
     if (!keeper.requests_.isEmpty()) {
         keeper.schedule();
@@ -104,7 +112,8 @@ void FocusKeeper::schedule() {
     }
 }
 
-void FocusKeeper::settle() {
+bool FocusKeeper::settle() {
+    sentBack_ = false;
     while (!tasks_.empty() || !requests_.isEmpty()) {
         const std::vector<std::function<void()>> tasks = std::exchange(tasks_, {});
         for (const auto &task : tasks) {
@@ -129,6 +138,7 @@ void FocusKeeper::settle() {
             break;
         }
     }
+    return sentBack_;
 }
 
 void FocusKeeper::carryOut(QWidget *form) {

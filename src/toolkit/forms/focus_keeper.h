@@ -36,6 +36,7 @@ public:
     private:
         friend class FocusKeeper;
         QPointer<QWidget> form_;
+        QPointer<QWidget> focus_;
         Kind kind_;
         bool held_ = false;
         Scope *outer_;
@@ -52,7 +53,8 @@ public:
     void post(std::function<void()> task);
     /// Runs what waits now, and carries out the focus requests. A handler that opens a dialog runs
     /// the dialog's own work in the meantime, and the rest after it.
-    void settle();
+    /// True if a leave handler put the focus elsewhere: a key stroke that waited has no target.
+    bool settle();
 
     void owe(QObject *field) { owed_ = field; }
     QObject *owed() const { return owed_; }
@@ -67,6 +69,7 @@ private:
     std::vector<std::function<void()>> tasks_;
     QPointer<QObject> owed_;
     bool scheduled_ = false;
+    bool sentBack_ = false;
 };
 
 }  // namespace kaldo

@@ -140,6 +140,11 @@ public:
     }
 
 protected:
+    static int alignmentOf(const ListColumn &column) {
+        const bool words = column.mask == CellMask::Text || column.mask == CellMask::Date;
+        return int((words ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    }
+
     bool filterAcceptsRow(int row, const QModelIndex &) const override {
         if (wanted_.isEmpty()) {
             return true;

@@ -16,18 +16,18 @@ namespace {
 /// Wide enough for a sentence, narrow enough to be read at a glance.
 constexpr int kTextCharacters = 58;
 
-QStyle::StandardPixmap pictureOf(MessageKind kind) {
+QString pictureOf(MessageKind kind) {
     switch (kind) {
         case MessageKind::Warning:
-            return QStyle::SP_MessageBoxWarning;
+            return QStringLiteral("warning");
         case MessageKind::Error:
-            return QStyle::SP_MessageBoxCritical;
+            return QStringLiteral("error");
         case MessageKind::Confirmation:
-            return QStyle::SP_MessageBoxQuestion;
+            return QStringLiteral("question");
         case MessageKind::Information:
             break;
     }
-    return QStyle::SP_MessageBoxInformation;
+    return QStringLiteral("information");
 }
 
 class Box : public QDialog {
@@ -50,7 +50,7 @@ private:
         line->setSpacing(16);
         auto *picture = new QLabel(this);
         const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-        picture->setPixmap(style()->standardIcon(pictureOf(message.kind)).pixmap(size, size));
+        picture->setPixmap(iconNamed(pictureOf(message.kind)).pixmap(size, size));
         line->addWidget(picture, 0, Qt::AlignTop);
         auto *text = new QLabel(this);
         text->setObjectName(QStringLiteral("messageText"));
@@ -90,6 +90,7 @@ private:
         line->addWidget(button);
         if (line->count() == 2) {  // the stretch and the first button
             button->setFocus();
+            setAttribute(Qt::WA_KeyboardFocusChange);
         }
     }
 };
