@@ -1,1 +1,81 @@
-int main() { return 0; }
+#include "shell/program.h"
+#include "toolkit/forms/application.h"
+
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTextStream>
+#include <QTranslator>
+
+#include <cstdio>
+
+namespace {
+
+const char kHelp[] =
+    "Uso: kaldo [--root CARPETA]\n"
+    "\n"
+    "  --root CARPETA  carpeta de la instalación, con Ini/kaldo.ini y DataBase/\n"
+    "                  (si falta: la variable KALDO_ROOT o la carpeta de datos del usuario)\n"
+    "  --help          muestra esta ayuda\n";
+
+bool hasArgument(const QStringList &arguments, const char *name) {
+    return arguments.contains(QLatin1String(name));
+}
+
+/// True where no desktop can be reached: Qt would end the process with a message in English.
+bool lacksDesktop(const QStringList &arguments) {
+#if defined(Q_OS_LINUX)
+    return !qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+           !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !hasArgument(arguments, "-platform") &&
+           !hasArgument(arguments, "--platform");
+#else
+    Q_UNUSED(arguments)
+    return false;
+#endif
+}
+
+QStringList argumentList(int argc, char **argv) {
+    QStringList arguments;
+    for (int at = 0; at < argc; ++at) {
+        arguments += QString::fromLocal8Bit(argv[at]);
+    }
+    return arguments;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    const QStringList arguments = argumentList(argc, argv);
+    if (hasArgument(arguments, "--help") || hasArgument(arguments, "-h")) {
+        std::fputs(kHelp, stdout);
+        return 0;
+    }
+    if (!arguments.isEmpty() && arguments.last() == QLatin1String("--root")) {
+        std::fputs("kaldo: falta la carpeta después de --root.\n\n", stderr);
+        std::fputs(kHelp, stderr);
+        return 2;
+    }
+    if (lacksDesktop(arguments)) {
+        std::fputs(
+            "kaldo: no hay un escritorio en el que mostrar las ventanas (faltan las "
+            "variables DISPLAY y WAYLAND_DISPLAY).\n"
+            "La demostración sí corre sin escritorio: scripts/demo CARPETA\n",
+            stderr);
+        return 1;
+    }
+    kaldo::Application application(argc, argv);
+    Q_INIT_RESOURCE(icons);
+    QCoreApplication::setApplicationName(QStringLiteral("kaldo"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("KALDO"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("kaldo"));
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Mexico));
+    QTranslator toolkitTexts;
+    if (toolkitTexts.load(QStringLiteral("qtbase_es"),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&toolkitTexts);
+    }
+    kaldo::ProgramSettings settings;
+    settings.root = kaldo::Installation::rootFromEnvironment(arguments);
+    kaldo::Program program(settings);
+    return program.run();
+}

@@ -1,0 +1,84 @@
+#include "shell/frm000_main_window.h"
+
+#include "shell/backdrop.h"
+#include "shell/menu_entries.h"
+#include "toolkit/forms/application.h"
+
+#include <QMdiSubWindow>
+
+namespace kaldo {
+
+namespace {
+
+/// Screens stand this much above the middle, so that boxes over them don't hide their fields.
+constexpr int kAboveMiddle = 80;
+
+}  // namespace
+
+Screen *FRM000::childScreen() const {
+    // A closed window lives on until the event loop turns.
+    return child_ && !child_->isHidden() ? qobject_cast<Screen *>(child_->widget()) : nullptr;
+}
+
+void FRM000::CerrarVentana() {
+    const QList<QMdiSubWindow *> windows = backdrop_->subWindowList(QMdiArea::CreationOrder);
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        (*window)->close();
+    }
+}
+
+void FRM000::dropChild() {
+    delete child_.data();
+}
+
+void FRM000::openScreen(const ScreenMaker &maker) {
+    CerrarVentana();
+    if (childScreen() != nullptr) {
+        return;  // it refused to close
+    }
+    Screen *screen = maker().release();
+    QMdiSubWindow *window = backdrop_->addSubWindow(screen);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowIcon(windowIcon());
+    child_ = window;
+    connectGuarded(screen, &Screen::closeRequested, window, [window] { window->close(); });
+    connect(screen, &QObject::destroyed, window, &QObject::deleteLater);
+    place(window);
+    screen->open();
+}
+
+void FRM000::place(QMdiSubWindow *window) {
+    const QSize area = backdrop_->viewport()->size();
+    const QSize size = window->sizeHint();
+    if (size.width() > area.width() || size.height() > area.height()) {
+        window->showMaximized();
+        return;
+    }
+    const QSize middle = (area - size) / 2;
+    window->setGeometry(
+        QRect(QPoint(middle.width(), qMax(0, middle.height() - kAboveMiddle)), size));
+    window->show();
+}
+
+void FRM000::Preliminar() {
+    Screen *screen = childScreen();
+    if (screen == nullptr) {
+        return;
+    }
+    for (const QString &name : previewOrder()) {
+        if (screen->objectName() == name) {
+            screen->previewReport();
+        }
+    }
+}
+
+void FRM000::ConfigurarImpresora() {
+    const int current = context_.session.ImpresoraIndice;
+    const int chosen = context_.printing.choosePrinter(this, current);
+    const Screen *screen = childScreen();
+    if (screen != nullptr && screen->keepsPrinter()) {
+        context_.session.ImpresoraIndice = chosen;
+    }
+}
+
+}  // namespace kaldo

@@ -1,0 +1,259 @@
+#include "shell/frm000_main_window.h"
+
+#include "shell/backdrop.h"
+#include "shell/closing_hour.h"
+#include "shell/main_skin.h"
+#include "shell/side_bar.h"
+#include "shell/status_panels.h"
+#include "toolkit/forms/application.h"
+#include "toolkit/forms/button.h"
+
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QUrl>
+
+namespace kaldo {
+
+FRM000::FRM000(Context &context, std::chrono::milliseconds tick) : context_(context) {
+    setObjectName(QStringLiteral("FRM000"));
+    setWindowTitle(QStringLiteral("KALDO"));
+    setWindowIcon(iconNamed(QStringLiteral("logo")));
+    resize(1024, 700);
+    buildMenu();
+    buildToolBar();
+    buildCentre();
+    panels_ = new StatusPanels(this);
+    panels_->setPanel(1, QStringLiteral("   Bienvenidos Sistema KALDO"));
+    setStatusBar(panels_);
+    setDefaultHandlers();
+    DisableButtons();
+    clock_.setInterval(tick);
+    connectGuarded(&clock_, &QTimer::timeout, this, [this] { Timer1(); });
+    clock_.start();
+}
+
+FRM000::~FRM000() = default;
+
+void FRM000::buildCentre() {
+    auto *centre = new QWidget(this);
+    auto *line = new QHBoxLayout(centre);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(0);
+    sideBar_ = new SideBar(centre);
+    sideBar_->hide();
+    backdrop_ = new Backdrop(centre);
+    backdrop_->setCaption(QStringLiteral("KALDO"), QString());
+    line->addWidget(sideBar_);
+    line->addWidget(backdrop_, 1);
+    setCentralWidget(centre);
+    buildNotice();
+}
+
+void FRM000::buildNotice() {
+    Panel2_ = new QWidget(backdrop_);
+    Panel2_->setObjectName(QStringLiteral("Panel2"));
+    auto *line = new QHBoxLayout(Panel2_);
+    noticeButton_ = new Button(Panel2_);
+    noticeButton_->setObjectName(QStringLiteral("noticeButton"));
+    noticeButton_->setMinimumSize(fontMetrics().averageCharWidth() * 24,
+                                  fontMetrics().height() * 2);
+    line->addWidget(noticeButton_);
+    connectGuarded(noticeButton_, &QPushButton::clicked, this, [this] { openNoticePage(); });
+    Panel2_->hide();
+}
+
+void FRM000::formCreate() {
+    context_.session.FiltroAdmision = AdmissionFilter::Today;
+    context_.session.ModoEstadoExpediente = false;
+    sessionStarted_ = false;
+    Ini();
+    MainSkin();
+    context_.session.AnioActual = static_cast<qint16>(context_.clock.today().year());
+    const QString stem =
+        pictureStem(context_.ini.value(QStringLiteral("Ambiente"), QStringLiteral("skin"),
+                                       QStringLiteral("C:\\KALDO\\Ini\\skinblue.dll")));
+    splashPicture_ = loadPicture(stem + QStringLiteral("_splash.png"));
+    if (backdrop_->picture().isNull()) {
+        backdrop_->setPicture(loadPicture(stem + QStringLiteral(".png")));
+        // What is written on a picture takes the colours of the scheme that it was drawn for.
+        if (const ColourScheme *scheme = schemeOfPicture(stem);
+            scheme != nullptr && !backdrop_->picture().isNull()) {
+            backdrop_->setCaptionColours(scheme->caption, scheme->link);
+        }
+    }
+}
+
+void FRM000::Ini() {
+    IniFile &ini = context_.ini;
+    ini = IniFile(ini.path());
+    const QString client = QStringLiteral("Cliente");
+    context_.session.Cliente = ini.value(client, QStringLiteral("cliente"));
+    context_.session.ClienteNombre = ini.value(client, QStringLiteral("nombre"));
+    context_.session.Ciudad = ini.value(QStringLiteral("Usuario"), QStringLiteral("ciudad"));
+    context_.session.ClienteSql = ini.value(QStringLiteral("Sql"), QStringLiteral("cliente"));
+    backdrop_->setCaption(QStringLiteral("KALDO"), context_.session.ClienteNombre);
+}
+
+void FRM000::MainSkin() {
+    Panel2_->hide();
+    context_.session.SkinName = context_.ini.value(
+        QStringLiteral("Sistema"), QStringLiteral("skinname"), QStringLiteral("Windows"));
+    const ColourScheme *scheme = schemeNamed(context_.session.SkinName);
+    applyScheme(scheme);
+    if (scheme != nullptr) {
+        backdrop_->setPicture(loadPicture(pictureOf(*scheme, context_.clock.today())));
+        if (!backdrop_->picture().isNull()) {
+            backdrop_->setCaptionColours(scheme->caption, scheme->link);
+        }
+    }
+    const QColor colour = scheme != nullptr ? scheme->kaldoColor : baseAccent();
+    sideBar_->setHeaderColour(colour);
+    panels_->setBarColour(colour);
+}
+
+QPixmap FRM000::loadPicture(const QString &file) const {
+    const QString path = context_.installation.map(QStringLiteral("C:/KALDO/Images/KALDO/") + file);
+    return QFile::exists(path) ? QPixmap(path) : QPixmap();
+}
+
+void FRM000::showUser() {
+    panels_->setPanel(0, QStringLiteral("   Usuario: ") + context_.session.NombreCorto);
+    panels_->setPanel(3, QString());
+    panels_->setPanel(5, QStringLiteral("   Ciudad: ") + context_.session.Ciudad);
+}
+
+void FRM000::startSession() {
+    sessionStarted_ = true;
+    backdrop_->viewport()->update();
+    setEnabled(true);
+}
+
+void FRM000::showRate() {
+    const QString rate = formatMoney(context_.session.TipoCambio);
+    panels_->setPanel(3, QStringLiteral("   Tipo Cambio: ") + rate);
+    sideBar_->setRate(rate, context_.clock.today());
+}
+
+void FRM000::refreshDeskFigures() {
+    NamedQuery &figures = context_.odonto.est_caja;
+    figures.open({{QStringLiteral("p_caja"), context_.session.NumCaja},
+                  {QStringLiteral("p_fecha"), context_.clock.today()}});
+    sideBar_->setFigures([&figures](const QString &column) { return figures.value(column); });
+}
+
+void FRM000::showNotice(const QString &text) {
+    panels_->setPanel(2, QStringLiteral("   ") + text);
+}
+
+void FRM000::beginProgress(int total, double step) {
+    if (progress_++ == 0) {
+        menuBar()->setEnabled(false);
+        toolBar_->setEnabled(false);
+    }
+    panels_->beginProgress(total, step);
+}
+
+void FRM000::advanceProgress() {
+    panels_->advanceProgress();
+}
+
+void FRM000::endProgress() {
+    if (--progress_ > 0) {
+        return;
+    }
+    panels_->endProgress();
+    menuBar()->setEnabled(true);
+    toolBar_->setEnabled(true);
+    if (closeAsked_) {
+        closeAsked_ = false;
+        QTimer::singleShot(0, this, [this] { close(); });
+    }
+}
+
+void FRM000::Timer1() {
+    const QDateTime now = context_.clock.now();
+    const QDateTime before = std::exchange(lastTick_, now);
+    panels_->setPanel(6, QStringLiteral("   ") + now.time().toString(QStringLiteral("HH:mm:ss")));
+    if (!context_.options.ApagarSistema) {
+        return;
+    }
+    const QTime hour =
+        QTime::fromString(context_.ini.value(QStringLiteral("Equipo"), QStringLiteral("hora")),
+                          QStringLiteral("HH:mm:ss"));
+    if (closingHourReached(before, now, hour)) {
+        showNotice(QStringLiteral("Llegó la hora de cierre de KALDO: %1.")
+                       .arg(hour.toString(QStringLiteral("HH:mm:ss"))));
+        emit closingHour();
+    }
+}
+
+void FRM000::closeEvent(QCloseEvent *event) {
+    Application *application = Application::current();
+    if (application == nullptr || application->ending()) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (progress_ > 0) {
+        closeAsked_ = true;
+        return;
+    }
+    runGuarded([&] {
+        if (context_.messages.confirm(QStringLiteral("¿Desea salir de KALDO?")) == Answer::Yes) {
+            application->endApplication();
+        }
+    });
+}
+
+void FRM000::resizeEvent(QResizeEvent *event) {
+    QMainWindow::resizeEvent(event);
+    const QSize area = backdrop_->size();
+    const QSize panel = Panel2_->sizeHint();
+    Panel2_->setGeometry((area.width() - panel.width()) / 2, area.height() * 5 / 6 - panel.height(),
+                         panel.width(), panel.height());
+}
+
+void FRM000::whenRunning(std::function<void()> call) {
+    if (running_) {
+        call();
+    } else {
+        QTimer::singleShot(0, this, guarded(std::move(call)));
+    }
+}
+
+void FRM000::showSkinNotice(Notice notice) {
+    if (notice == Notice::None) {
+        return;
+    }
+    notice_ = notice;
+    const bool telegram = notice == Notice::Telegram;
+    if (const ColourScheme *scheme = schemeNamed(context_.session.SkinName)) {
+        backdrop_->setPicture(
+            loadPicture(telegram ? scheme->telegramNotice : scheme->assistanceNotice));
+    }
+    noticeButton_->setText(telegram ? QStringLiteral("TELEGRAM") : QStringLiteral("Entrar"));
+    Panel2_->show();
+    Panel2_->raise();
+}
+
+void FRM000::openNoticePage() {
+    const QString key =
+        notice_ == Notice::Telegram ? QStringLiteral("telegram") : QStringLiteral("asistencia");
+    const QString address = context_.ini.value(QStringLiteral("Ayuda"), key);
+    if (address.isEmpty()) {
+        context_.messages.information(
+            QStringLiteral("Esta estación no tiene registrada la dirección de la página (clave %1 "
+                           "de la sección [Ayuda] del archivo de configuración).")
+                .arg(key));
+        return;
+    }
+    QDesktopServices::openUrl(QUrl(address));
+}
+
+}  // namespace kaldo

@@ -1,0 +1,146 @@
+#include "shell/main_skin.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+#include <array>
+#include <stdexcept>
+
+namespace kaldo {
+
+namespace {
+
+/// The schemes' colours are written blue-green-red.
+QColor fromBgr(quint32 bgr) {
+    return QColor(bgr & 0xff, (bgr >> 8) & 0xff, (bgr >> 16) & 0xff);
+}
+
+/// Converts a date that stands in the program as a text.
+QDate literalDate(const QString &text) {
+    const QDate date = QDate::fromString(text, QStringLiteral("dd/MM/yyyy"));
+    if (!date.isValid()) {
+        throw std::invalid_argument(
+            QStringLiteral("'%1' no es una fecha válida.").arg(text).toStdString());
+    }
+    return date;
+}
+
+bool between(const QDate &day, const QString &first, const QString &last) {
+    return day >= literalDate(first) && day <= literalDate(last);
+}
+
+QPalette basePalette() {
+    QPalette palette(QColor(0xf1, 0xf4, 0xf6));
+    palette.setColor(QPalette::Window, QColor(0xf4, 0xf6, 0xf8));
+    palette.setColor(QPalette::WindowText, QColor(0x1e, 0x29, 0x3b));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xf3, 0xf7, 0xf9));
+    palette.setColor(QPalette::Text, QColor(0x1e, 0x29, 0x3b));
+    palette.setColor(QPalette::Button, QColor(0xe9, 0xee, 0xf2));
+    palette.setColor(QPalette::ButtonText, QColor(0x1e, 0x29, 0x3b));
+    palette.setColor(QPalette::Highlight, baseAccent());
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfb, 0xe6));
+    palette.setColor(QPalette::ToolTipText, QColor(0x1e, 0x29, 0x3b));
+    palette.setColor(QPalette::PlaceholderText, QColor(0x94, 0xa3, 0xb8));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, QColor(0x94, 0xa0, 0xae));
+    }
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0xcb, 0xd5, 0xe1));
+    return palette;
+}
+
+}  // namespace
+
+const ColourScheme *schemeNamed(const QString &name) {
+    const auto scheme = [](const char *title, quint32 color, quint32 select, quint32 caption,
+                           quint32 link, const QString &stem, const QString &december,
+                           const QString &assistance) {
+        const QString png = QStringLiteral(".png");
+        return ColourScheme{QString::fromLatin1(title),
+                            fromBgr(color),
+                            fromBgr(select),
+                            fromBgr(caption),
+                            fromBgr(link),
+                            stem + png,
+                            stem + QStringLiteral("_sep") + png,
+                            december + png,
+                            assistance + QStringLiteral("_asist1") + png,
+                            stem + QStringLiteral("_teleg") + png};
+    };
+    static const std::array<ColourScheme, 3> schemes = {
+        scheme("KaldoBlack", 0x585858, 0xdae2d3, 0x555555, 0xbee4f6, QStringLiteral("kaldoblk"),
+               QStringLiteral("kaldodic"), QStringLiteral("kaldoblk")),
+        scheme("KaldoBlue", 0xd77800, 0xfecfa0, 0xffffff, 0xfbca8c, QStringLiteral("kaldoblu"),
+               QStringLiteral("kaldodic"), QStringLiteral("kaldoblu")),
+        scheme("KaldoGreen", 0x566649, 0xdae2d3, 0x555555, 0xd1d8cb, QStringLiteral("kaldogre"),
+               QStringLiteral("kaldogre_dic"), QStringLiteral("kaldoblk")),
+    };
+    for (const ColourScheme &candidate : schemes) {
+        if (candidate.name == name) {
+            return &candidate;
+        }
+    }
+    return nullptr;
+}
+
+QString pictureOf(const ColourScheme &scheme, const QDate &today) {
+    if (between(today, QStringLiteral("01/09/2024"), QStringLiteral("31/09/2024"))) {
+        return scheme.septemberPicture;
+    }
+    if (between(today, QStringLiteral("01/12/2024"), QStringLiteral("31/12/2024"))) {
+        return scheme.decemberPicture;
+    }
+    return scheme.picture;
+}
+
+QString pictureStem(const QString &skinLibrary) {
+    const QString file = skinLibrary.section(u'\\', -1).section(u'/', -1).toLower();
+    if (file == QLatin1String("skinblue.dll")) {
+        return QStringLiteral("kaldoblu");
+    }
+    if (file == QLatin1String("skinblack.dll")) {
+        return QStringLiteral("kaldoblk");
+    }
+    if (file == QLatin1String("skingreen.dll")) {
+        return QStringLiteral("kaldogre");
+    }
+    return {};
+}
+
+const ColourScheme *schemeOfPicture(const QString &stem) {
+    for (const char *name : {"KaldoBlack", "KaldoBlue", "KaldoGreen"}) {
+        const ColourScheme *scheme = schemeNamed(QString::fromLatin1(name));
+        if (scheme->picture == stem + QStringLiteral(".png")) {
+            return scheme;
+        }
+    }
+    return nullptr;
+}
+
+QColor baseAccent() {
+    return QColor(0x0f, 0x76, 0x6e);
+}
+
+void applyBaseLook() {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(basePalette());
+}
+
+void applyScheme(const ColourScheme *scheme) {
+    QPalette palette = basePalette();
+    if (scheme != nullptr) {
+        palette.setColor(QPalette::Highlight, scheme->kaldoSelect);
+        palette.setColor(QPalette::HighlightedText, QColor(0x1e, 0x29, 0x3b));
+        palette.setColor(QPalette::Link, scheme->kaldoColor);
+    }
+    QApplication::setPalette(palette);
+    qApp->setStyleSheet(scheme == nullptr
+                            ? QString()
+                            : QStringLiteral("QHeaderView::section { background: %1; color: white;"
+                                             " border: none; padding: 4px 6px; }")
+                                  .arg(scheme->kaldoColor.name()));
+}
+
+}  // namespace kaldo

@@ -1,0 +1,226 @@
+#include "shell/program.h"
+
+#include "cashdesk/frm405_cash_cut.h"
+#include "cashdesk/frm801_incomplete_receipts.h"
+#include "payments/frm401_3_payment_form.h"
+#include "payments/frm401_payment_note.h"
+#include "people/frm_alumnos_student_choice.h"
+#include "shell/frm_acceso_login.h"
+#include "shell/frm_inicio_splash.h"
+#include "shell/frm_pass_password.h"
+#include "shell/main_skin.h"
+#include "toolkit/forms/application.h"
+
+namespace kaldo {
+
+namespace {
+
+report::PrintingHost printingHost(FRM000 *window) {
+    report::PrintingHost host;
+    host.notice = [window](const QString &text) { window->showNotice(text); };
+    return host;
+}
+
+}  // namespace
+
+/// In the order of their lives: what stands below is destroyed first, the connections outlive all
+/// screens. Constructors are light and open nothing.
+struct Program::Parts {
+    explicit Parts(const ProgramSettings &settings)
+        : installation(settings.root),
+          clock(settings.clock != nullptr ? *settings.clock : machineClock),
+          messages(settings.messages != nullptr ? *settings.messages : boxes),
+          splashTime(settings.splash),
+          ini(installation.map(QStringLiteral("C:\\KALDO\\Ini\\kaldo.ini"))),
+          conexion(installation, ini),
+          local(conexion),
+          odonto(conexion, session, options),
+          caja(conexion),
+          finanzas(conexion),
+          escolares(conexion),
+          window(std::make_unique<FRM000>(context, settings.tick)),
+          systemPrinting(installation.map(QStringLiteral("C:\\KALDO\\Recibos")),
+                         printingHost(window.get())),
+          context{installation,
+                  clock,
+                  ini,
+                  session,
+                  options,
+                  messages,
+                  settings.printing != nullptr ? *settings.printing : systemPrinting,
+                  *window,
+                  conexion,
+                  local,
+                  odonto,
+                  caja,
+                  finanzas,
+                  escolares} {
+        conexion.setSeam(settings.seam);
+    }
+    ~Parts() {
+        // A screen refers to resident dialogs, which go before the window.
+        window->dropChild();
+    }
+
+    Installation installation;
+    Clock machineClock;
+    const Clock &clock;
+    BoxMessages boxes;
+    Messages &messages;
+    std::chrono::milliseconds splashTime;
+    IniFile ini;
+    Session session;
+    Options options;
+    DMConexion conexion;
+    DMLocal local;
+    DMOdonto odonto;
+    DMIngresosCaja caja;
+    DMFinanzas finanzas;
+    DMEscolares escolares;
+    std::unique_ptr<FRM000> window;
+    report::SystemPrinting systemPrinting;
+    Context context;
+
+    std::unique_ptr<FRM401_3> formaPago;
+    std::unique_ptr<FRMAlumnos> alumnos;
+    std::unique_ptr<FRMPass> password;
+    std::unique_ptr<FRMAcceso> login;
+    std::unique_ptr<FRMInicio> splash;
+    std::unique_ptr<FRM801> incompletos;
+};
+
+Program::Program(const ProgramSettings &settings) {
+    applyBaseLook();
+    parts_ = std::make_unique<Parts>(settings);
+    if (Application *application = Application::current()) {
+        Messages *messages = &parts_->messages;
+        application->setFailureHandler([messages](const std::exception &failure) {
+            messages->error(QString::fromUtf8(failure.what()));
+        });
+    }
+}
+
+Program::~Program() {
+    if (Application *application = Application::current()) {
+        application->setFailureHandler({});
+    }
+}
+
+Context &Program::context() {
+    return parts_->context;
+}
+
+FRM000 &Program::mainWindow() {
+    return *parts_->window;
+}
+
+FRMAcceso &Program::login() {
+    return *parts_->login;
+}
+
+FRMInicio *Program::splash() {
+    return parts_->splash.get();
+}
+
+DMConexion &Program::conexion() {
+    return parts_->conexion;
+}
+
+bool Program::start() {
+    runGuarded([this] { parts_->window->formCreate(); });
+    createConnections();
+    bool connected = false;
+    runGuarded([&] { connected = createControlPanel(); });
+    if (!parts_->conexion.FBOdonto.isOpen()) {
+        return false;
+    }
+    parts_->window->showMaximized();
+    createResidents();
+    registerScreens();
+    FRM000 *window = parts_->window.get();
+    QTimer::singleShot(0, window, [this, window] {
+        window->setRunning();
+        QTimer::singleShot(parts_->splashTime, window, guarded([this] { Timer2(); }));
+    });
+    return true;
+}
+
+int Program::run() {
+    if (!start()) {
+        return 0;
+    }
+    return QCoreApplication::exec();
+}
+
+void Program::createConnections() {
+    try {
+        parts_->conexion.open();
+    } catch (const std::exception &) {
+        parts_->messages.error(QStringLiteral(
+            "Error en conexión, algún servicio no está disponible, inténtelo más tarde."));
+    }
+}
+
+bool Program::createControlPanel() {
+    Parts &parts = *parts_;
+    if (!parts.conexion.FBOdonto.isOpen()) {
+        return false;
+    }
+    parts.local.Recibos.open();
+    parts.local.Firebird.open();
+    parts.local.Informix.open();
+    parts.odonto.ControlExpediente.open({{QStringLiteral("campus"), QStringLiteral("000")}});
+    parts.options.load(parts.ini);
+    parts.conexion.FBCtrclinicas.close();
+    return true;
+}
+
+void Program::createResidents() {
+    Parts &parts = *parts_;
+    Context &context = parts.context;
+    FRM000 &window = *parts.window;
+    parts.formaPago = std::make_unique<FRM401_3>(context);
+    parts.alumnos = std::make_unique<FRMAlumnos>(context);
+    parts.password = std::make_unique<FRMPass>(context);
+    parts.login = std::make_unique<FRMAcceso>(context, window, *parts.password);
+    parts.login->setParent(&window, Qt::Dialog);
+    parts.password->setParent(&window, Qt::Dialog);
+    runGuarded([&] { parts.login->formCreate(); });
+    parts.splash = std::make_unique<FRMInicio>(window.splashPicture());
+    parts.splash->show();
+    runGuarded([&] { parts.splash->formCreate(parts.ini); });
+    parts.incompletos = std::make_unique<FRM801>(context);
+}
+
+void Program::registerScreens() {
+    Parts &parts = *parts_;
+    FRM000 &window = *parts.window;
+    window.setScreen(QStringLiteral("E1"), [&parts] {
+        return std::make_unique<FRM401>(parts.context, *parts.formaPago, *parts.alumnos);
+    });
+    window.setScreen(QStringLiteral("E6"),
+                     [&parts] { return std::make_unique<FRM405>(parts.context); });
+    window.setHandler(QStringLiteral("J1"), [&parts] { parts.login->openFromMenu(); });
+    window.setHandler(QStringLiteral("J2a"),
+                      [&parts, &window] { parts.incompletos->showModal(window.childScreen()); });
+}
+
+void Program::Timer2() {
+    Parts &parts = *parts_;
+    const QString machine = QStringLiteral("Equipo");
+    parts.splash.reset();
+    const bool ordinary =
+        parts.ini.value(machine, QStringLiteral("consulta")) == QLatin1String("N");
+    const bool named = !parts.ini.value(machine, QStringLiteral("usuario")).isEmpty() &&
+                       !parts.ini.value(machine, QStringLiteral("pass")).isEmpty();
+    if (ordinary || !named) {
+        if (!parts.window->sessionStarted()) {
+            parts.login->openAtStart();
+        }
+        return;
+    }
+    // A consultation station: nobody logs in to look a dossier up.
+    parts.window->runEntry(QStringLiteral("F1"));
+}
+
+}  // namespace kaldo
