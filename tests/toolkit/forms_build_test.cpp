@@ -12,6 +12,13 @@ TEST(FormBuilder, MakesAFormThatKeysAndReadersCanUse) {
     showActive(&form);
     checkAccessibility(form);
     picture(&form, QStringLiteral("forms_sample"));
+    for (QWidget *field : {static_cast<QWidget *>(form.service), static_cast<QWidget *>(form.sex),
+                           static_cast<QWidget *>(form.table), static_cast<QWidget *>(form.always),
+                           static_cast<QWidget *>(form.dossier)}) {
+        moveFocus(field);
+        settle();
+        picture(&form, QStringLiteral("forms_focus_") + field->objectName());
+    }
 }
 
 TEST(FormBuilder, TabGoesInTheOrderOfTheExpression) {

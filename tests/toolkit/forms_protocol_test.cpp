@@ -1,7 +1,12 @@
 #include <QDialog>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 
 #include "forms_sample.h"
 #include "tests/support/keys.h"
@@ -220,6 +225,35 @@ TEST(LeaveProtocol, OtherWindowsMenusAndClosingAreNoLeave) {
     notes.close();
     settle();
     EXPECT_EQ(notes.told(), "arrive2");
+}
+
+TEST(EnterProtocol, StaysInsideTheChildWindow) {
+    QMainWindow window;
+    window.addToolBar(QStringLiteral("Barra"))->addWidget(new QLineEdit);
+    auto *desktop = new QMdiArea(&window);
+    window.setCentralWidget(desktop);
+    auto *form = new QWidget;
+    TextField *first = nullptr;
+    TextField *last = nullptr;
+    int left = 0;
+    using namespace kaldo::form;
+    build(form, column({text(&first, "first", "Uno"),
+                        text(&last, "last", "Dos").leave([&] { ++left; })}));
+    desktop->addSubWindow(form)->show();
+    showActive(&window);
+    last->setFocus();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(first->hasFocus());
+    EXPECT_EQ(left, 1);
+    last->setFocus();
+    settle();
+    window.findChild<QToolBar *>()->findChild<QLineEdit *>()->setFocus(Qt::MouseFocusReason);
+    settle();
+    EXPECT_EQ(left, 1) << "the tool bar is not part of the form";
+    last->setFocus();
+    desktop->closeAllSubWindows();
+    settle();
+    EXPECT_EQ(left, 1);
 }
 
 TEST(LeaveProtocol, ADialogOpenedByALeaveHandlerWorks) {

@@ -1,5 +1,6 @@
 #include "toolkit/forms/button.h"
 
+#include "toolkit/forms/focus.h"
 #include "toolkit/forms/focus_keeper.h"
 
 #include <QFile>
@@ -58,6 +59,11 @@ void Button::keyPressEvent(QKeyEvent *event) {
     }
 }
 
+void Button::paintEvent(QPaintEvent *event) {
+    QPushButton::paintEvent(event);
+    paintFocusRing(this);
+}
+
 IconButton::IconButton(QWidget *parent) : QToolButton(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setToolButtonStyle(Qt::ToolButtonIconOnly);
@@ -72,6 +78,11 @@ void IconButton::keyPressEvent(QKeyEvent *event) {
     if (!handleEnter(this, event)) {
         QToolButton::keyPressEvent(event);
     }
+}
+
+void IconButton::paintEvent(QPaintEvent *event) {
+    QToolButton::paintEvent(event);
+    paintFocusRing(this);
 }
 
 }  // namespace kaldo

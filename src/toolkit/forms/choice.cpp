@@ -1,6 +1,7 @@
 #include "toolkit/forms/choice.h"
 
 #include "toolkit/core/text.h"
+#include "toolkit/forms/focus.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -104,6 +105,11 @@ void Choice::keyPressEvent(QKeyEvent *event) {
 
 void Choice::wheelEvent(QWheelEvent *event) {
     event->ignore();  // a form that scrolls must not change what it passes over
+}
+
+void Choice::paintEvent(QPaintEvent *event) {
+    QComboBox::paintEvent(event);
+    paintFocusRing(this);
 }
 
 RadioGroup::RadioGroup(QWidget *parent)

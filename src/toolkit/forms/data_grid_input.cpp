@@ -271,6 +271,13 @@ void DataGrid::focusInEvent(QFocusEvent *event) {
     if (none && state_->rows->rowCount() > 0) {
         setCurrentRow(std::max(0, currentRow()));
     }
+    if (currentIndex().isValid() && !selectionModel()->hasSelection()) {
+        // The base puts the cursor on the first row without marking it.
+        selectionModel()->select(currentIndex(),
+                                 state_->rowSelection
+                                     ? QItemSelectionModel::Select | QItemSelectionModel::Rows
+                                     : QItemSelectionModel::Select);
+    }
 }
 
 void DataGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous) {

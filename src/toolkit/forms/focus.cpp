@@ -4,6 +4,7 @@
 #include "toolkit/forms/focus_keeper.h"
 
 #include <QCoreApplication>
+#include <QPainter>
 #include <QTimer>
 
 #include <utility>
@@ -162,6 +163,16 @@ void markAsEscape(QWidget *button) {
 
 bool isEscape(const QWidget *widget) {
     return widget && widget->property(kEscapeProperty).toBool();
+}
+
+void paintFocusRing(QWidget *widget) {
+    if (!widget->hasFocus()) {
+        return;
+    }
+    QPainter painter(widget);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(widget->palette().color(QPalette::Active, QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(widget->rect()).adjusted(1, 1, -1, -1), 2.5, 2.5);
 }
 
 QWidget *nextInTabOrder(QWidget *from, bool forward) {

@@ -25,4 +25,8 @@ bool isEscape(const QWidget *widget);
 /// there is no other. Widgets inside `from` are passed over.
 QWidget *nextInTabOrder(QWidget *from, bool forward = true);
 
+/// Paints the ring of the widget that has the focus, for the end of its paint event: styles show it
+/// with a hair line, or not at all after a press of the mouse.
+void paintFocusRing(QWidget *widget);
+
 }  // namespace kaldo

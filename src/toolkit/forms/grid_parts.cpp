@@ -270,7 +270,7 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     QStyledItemDelegate::paint(painter, plain, index);
     if (index == grid_->currentIndex() && grid_->hasFocus()) {
         // The cell that keys go to, told apart from the row that is marked.
-        QPen frame(option.palette.color(QPalette::WindowText), 2);
+        QPen frame(option.palette.color(QPalette::Highlight).darker(170), 2);
         frame.setJoinStyle(Qt::MiterJoin);
         painter->save();
         painter->setPen(frame);

@@ -127,6 +127,11 @@ void LineField::normalise(QString *text, int *position) const {
     }
 }
 
+void LineField::paintEvent(QPaintEvent *event) {
+    QLineEdit::paintEvent(event);
+    paintFocusRing(this);
+}
+
 void LineField::complain(const QString &text) {
     setProperty("complaint", text);
     QApplication::beep();

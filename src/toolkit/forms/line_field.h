@@ -32,6 +32,8 @@ protected:
     /// cursor and may be moved along.
     virtual void normalise(QString *text, int *position) const;
 
+    void paintEvent(QPaintEvent *event) override;
+
     /// Tells what is wrong with the text, in a hint under the field.
     void complain(const QString &text);
 

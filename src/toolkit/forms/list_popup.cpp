@@ -118,9 +118,14 @@ public:
     bool filters() const { return !wanted_.isEmpty(); }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        if (orientation == Qt::Horizontal && role == Qt::DisplayRole &&
-            columns_.contains(section)) {
-            return columns_[section].title;
+        const auto column = columns_.constFind(section);
+        if (orientation == Qt::Horizontal && column != columns_.constEnd()) {
+            if (role == Qt::DisplayRole) {
+                return column->title;
+            }
+            if (role == Qt::TextAlignmentRole) {
+                return alignmentOf(*column);
+            }
         }
         return QSortFilterProxyModel::headerData(section, orientation, role);
     }
