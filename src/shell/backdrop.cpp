@@ -84,7 +84,7 @@ void Backdrop::paintGround(QPainter &painter, const QRect &area) {
 void Backdrop::paintCaption(QPainter &painter, const QRect &area) {
     const QRect inner = area.adjusted(28, 22, -28, -22);
     QFont title = font();
-    title.setPointSizeF(font().pointSizeF() * 2.2);
+    title.setPointSizeF(font().pointSizeF() * 1.8);
     title.setWeight(QFont::DemiBold);
     painter.setFont(title);
     painter.setPen(captionColour_);

@@ -2,8 +2,10 @@
 
 #include "shell/backdrop.h"
 #include "shell/menu_entries.h"
+#include "shell/side_bar.h"
 #include "toolkit/forms/application.h"
 
+#include <QLayout>
 #include <QMdiSubWindow>
 
 namespace kaldo {
@@ -43,13 +45,25 @@ void FRM000::openScreen(const ScreenMaker &maker) {
     child_ = window;
     connectGuarded(screen, &Screen::closeRequested, window, [window] { window->close(); });
     connect(screen, &QObject::destroyed, window, &QObject::deleteLater);
+    connect(window, &QObject::destroyed, sideBar_, [this] {
+        if (childScreen() == nullptr) {
+            sideBar_->setVisible(sideBarWanted_);
+        }
+    });
     place(window);
     screen->open();
 }
 
 void FRM000::place(QMdiSubWindow *window) {
-    const QSize area = backdrop_->viewport()->size();
     const QSize size = window->sizeHint();
+    // On a small desktop the side bar gives way to a wide screen while that is open.
+    sideBar_->setVisible(sideBarWanted_);
+    centralWidget()->layout()->activate();
+    if (sideBarWanted_ && size.width() > backdrop_->width()) {
+        sideBar_->hide();
+        centralWidget()->layout()->activate();
+    }
+    const QSize area = backdrop_->viewport()->size();
     if (size.width() > area.width() || size.height() > area.height()) {
         window->showMaximized();
         return;

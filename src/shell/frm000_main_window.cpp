@@ -5,6 +5,7 @@
 #include "shell/main_skin.h"
 #include "shell/side_bar.h"
 #include "shell/status_panels.h"
+#include "shell/version.h"
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
 
@@ -48,7 +49,6 @@ void FRM000::buildCentre() {
     sideBar_ = new SideBar(centre);
     sideBar_->hide();
     backdrop_ = new Backdrop(centre);
-    backdrop_->setCaption(QStringLiteral("KALDO"), QString());
     line->addWidget(sideBar_);
     line->addWidget(backdrop_, 1);
     setCentralWidget(centre);
@@ -97,7 +97,8 @@ void FRM000::Ini() {
     context_.session.ClienteNombre = ini.value(client, QStringLiteral("nombre"));
     context_.session.Ciudad = ini.value(QStringLiteral("Usuario"), QStringLiteral("ciudad"));
     context_.session.ClienteSql = ini.value(QStringLiteral("Sql"), QStringLiteral("cliente"));
-    backdrop_->setCaption(QStringLiteral("KALDO"), context_.session.ClienteNombre);
+    backdrop_->setCaption(context_.session.ClienteNombre,
+                          QStringLiteral("KALDO ") + QString::fromLatin1(kVersion));
 }
 
 void FRM000::MainSkin() {

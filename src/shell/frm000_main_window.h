@@ -133,6 +133,7 @@ private:
     bool running_ = false;
     bool sessionStarted_ = false;
     bool closeAsked_ = false;
+    bool sideBarWanted_ = false;
     int progress_ = 0;
 };
 

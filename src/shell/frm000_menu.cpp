@@ -195,7 +195,8 @@ void FRM000::applyRights(const ShellRights &rights) {
     spacers_[2]->setVisible(rights.spacer2);
     spacers_[3]->setVisible(rights.spacer3);
     if (sideBar_ != nullptr) {
-        sideBar_->setVisible(rights.sideBar);
+        sideBarWanted_ = rights.sideBar;
+        sideBar_->setVisible(sideBarWanted_);
         sideBar_->setGroups(rights.rateGroup, rights.deskGroup, rights.sitesGroup);
         backdrop_->setCaptionVisible(rights.caption);
     }

@@ -1,8 +1,11 @@
 #include "shell/main_skin.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOptionHeader>
 
 #include <array>
 #include <stdexcept>
@@ -30,19 +33,56 @@ bool between(const QDate &day, const QString &first, const QString &last) {
     return day >= literalDate(first) && day <= literalDate(last);
 }
 
+const QColor kInk(0x1e, 0x29, 0x3b);
+
+/// Fusion with quiet flat headers on all grids, in the scheme's colour where there is one.
+class KaldoStyle : public QProxyStyle {
+public:
+    KaldoStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    /// An invalid colour is none.
+    void setHeader(const QColor &colour) { header_ = colour; }
+
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override {
+        if (element == CE_HeaderSection) {
+            painter->fillRect(option->rect, header_.isValid() ? header_ : kHeader);
+            painter->setPen(header_.isValid() ? header_.lighter(130) : kHeaderLine);
+            painter->drawLine(option->rect.topRight(), option->rect.bottomRight());
+            painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
+            return;
+        }
+        if (element == CE_HeaderLabel && header_.isValid()) {
+            if (const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option)) {
+                QStyleOptionHeader white = *header;
+                white.palette.setColor(QPalette::ButtonText, Qt::white);
+                QProxyStyle::drawControl(element, &white, painter, widget);
+                return;
+            }
+        }
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+private:
+    static inline const QColor kHeader{0xe6, 0xec, 0xf0};
+    static inline const QColor kHeaderLine{0xcb, 0xd5, 0xdc};
+
+    QColor header_;
+};
+
 QPalette basePalette() {
     QPalette palette(QColor(0xf1, 0xf4, 0xf6));
     palette.setColor(QPalette::Window, QColor(0xf4, 0xf6, 0xf8));
-    palette.setColor(QPalette::WindowText, QColor(0x1e, 0x29, 0x3b));
+    palette.setColor(QPalette::WindowText, kInk);
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor(0xf3, 0xf7, 0xf9));
-    palette.setColor(QPalette::Text, QColor(0x1e, 0x29, 0x3b));
+    palette.setColor(QPalette::Text, kInk);
     palette.setColor(QPalette::Button, QColor(0xe9, 0xee, 0xf2));
-    palette.setColor(QPalette::ButtonText, QColor(0x1e, 0x29, 0x3b));
+    palette.setColor(QPalette::ButtonText, kInk);
     palette.setColor(QPalette::Highlight, baseAccent());
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfb, 0xe6));
-    palette.setColor(QPalette::ToolTipText, QColor(0x1e, 0x29, 0x3b));
+    palette.setColor(QPalette::ToolTipText, kInk);
     palette.setColor(QPalette::PlaceholderText, QColor(0x94, 0xa3, 0xb8));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, QColor(0x94, 0xa0, 0xae));
@@ -124,7 +164,7 @@ QColor baseAccent() {
 }
 
 void applyBaseLook() {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new KaldoStyle);
     QApplication::setPalette(basePalette());
 }
 
@@ -132,15 +172,13 @@ void applyScheme(const ColourScheme *scheme) {
     QPalette palette = basePalette();
     if (scheme != nullptr) {
         palette.setColor(QPalette::Highlight, scheme->kaldoSelect);
-        palette.setColor(QPalette::HighlightedText, QColor(0x1e, 0x29, 0x3b));
+        palette.setColor(QPalette::HighlightedText, kInk);
         palette.setColor(QPalette::Link, scheme->kaldoColor);
     }
+    if (auto *style = dynamic_cast<KaldoStyle *>(QApplication::style())) {
+        style->setHeader(scheme != nullptr ? scheme->kaldoColor : QColor());
+    }
     QApplication::setPalette(palette);
-    qApp->setStyleSheet(scheme == nullptr
-                            ? QString()
-                            : QStringLiteral("QHeaderView::section { background: %1; color: white;"
-                                             " border: none; padding: 4px 6px; }")
-                                  .arg(scheme->kaldoColor.name()));
 }
 
 }  // namespace kaldo

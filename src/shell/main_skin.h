@@ -35,7 +35,7 @@ QString pictureStem(const QString &skinLibrary);
 /// The scheme that the picture of that stem was drawn for; null for none.
 const ColourScheme *schemeOfPicture(const QString &stem);
 
-/// The look of all windows, without a scheme.
+/// The look of all windows, without a scheme. Once, before the first window.
 void applyBaseLook();
 /// What a scheme changes of it; null goes back to the base look.
 void applyScheme(const ColourScheme *scheme);

@@ -42,13 +42,17 @@ QWidget *SideBar::makeGroup(const QString &name, const QString &title, QWidget *
     rows->setSpacing(0);
     auto *header = new QLabel(title, group);
     header->setAutoFillBackground(true);
+    header->setBackgroundRole(QPalette::Window);
+    header->setForegroundRole(QPalette::WindowText);
     header->setMargin(6);
     QFont bold = header->font();
     bold.setBold(true);
     header->setFont(bold);
     headers_.push_back(header);
     rows->addWidget(header);
+    content->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     rows->addWidget(content);
+    group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     return group;
 }
 
@@ -102,14 +106,18 @@ QWidget *SideBar::makeSitesGroup() {
     grid->setSelectionMode(QAbstractItemView::NoSelection);
     grid->setHorizontalHeaderLabels({QStringLiteral("Sede"), QStringLiteral("Importe")});
     grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    grid->setWordWrap(false);
     grid->verticalHeader()->hide();
     const QStringList sites{QStringLiteral("Puerto Alto"), QStringLiteral("Valle Norte"),
                             QStringLiteral("Costa Sur")};
     for (int row = 0; row < sites.size(); ++row) {
         grid->setItem(row, 0, new QTableWidgetItem(sites[row]));
     }
-    grid->setFixedHeight(grid->horizontalHeader()->sizeHint().height() + 3 * grid->rowHeight(0) +
-                         2 * grid->frameWidth());
+    grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    grid->setFixedHeight(grid->horizontalHeader()->sizeHint().height() +
+                         3 * grid->verticalHeader()->defaultSectionSize() + 2 * grid->frameWidth());
     rows->addWidget(grid);
     auto *refresh = new Button(content);
     refresh->setObjectName(QStringLiteral("BitBtn1"));
