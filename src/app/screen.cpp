@@ -41,7 +41,11 @@ void Dialog::ensureBuilt() {
 int Dialog::showModal(ScreenBase *opener) {
     ensureBuilt();
     runGuarded([this] { activated(); });
-    const int result = exec();
+    int result = 0;
+    {
+        const ActivationReturn activation(parentWidget());
+        result = exec();
+    }
     if (opener != nullptr) {
         runGuarded([opener] { opener->activated(); });
     }
@@ -60,7 +64,10 @@ void Dialog::keyPressEvent(QKeyEvent *event) {
 void previewDocument(Context &context, QWidget *parent, ScreenBase *opener,
                      const report::Document &document, const QString &title,
                      const report::PreviewOptions &options) {
-    context.printing.preview(document, title, parent, options);
+    {
+        const ActivationReturn activation;
+        context.printing.preview(document, title, parent, options);
+    }
     if (opener != nullptr) {
         runGuarded([opener] { opener->activated(); });
     }

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPainter>
 #include <QTest>
 #include <QWidget>
@@ -100,6 +101,19 @@ KeyScript &KeyScript::press(Qt::Key key, Qt::KeyboardModifiers modifiers, const 
         }
         strike(key, modifiers, text);
         return true;
+    });
+}
+
+KeyScript &KeyScript::choose(const QString &caption) {
+    return add(QLatin1String("the menu entry ") + caption, [this, caption] {
+        const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (menu == nullptr) {
+            return false;
+        }
+        const QAction *action = menu->activeAction();
+        const bool there = action != nullptr && action->text().remove(u'&') == caption;
+        strike(there ? Qt::Key_Return : Qt::Key_Down, {}, QString());
+        return there;
     });
 }
 

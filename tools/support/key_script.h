@@ -30,6 +30,8 @@ public:
     KeyScript &press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString &text = {});
     /// Alt and a letter.
     KeyScript &alt(char letter);
+    /// Moves down an open menu to the entry with this caption and presses Enter on it.
+    KeyScript &choose(const QString &caption);
     KeyScript &enter() { return press(Qt::Key_Return); }
     /// Saves a picture of the active window and what lies over it.
     KeyScript &picture(const QString &name);

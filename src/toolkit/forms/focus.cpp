@@ -190,4 +190,13 @@ QWidget *nextInTabOrder(QWidget *from, bool forward) {
     return nullptr;
 }
 
+ActivationReturn::ActivationReturn(QWidget *otherwise)
+    : window_(QApplication::activeWindow() != nullptr ? QApplication::activeWindow() : otherwise) {}
+
+ActivationReturn::~ActivationReturn() {
+    if (window_ && window_->isVisible() && QApplication::activeWindow() != window_) {
+        window_->activateWindow();
+    }
+}
+
 }  // namespace kaldo

@@ -1,6 +1,7 @@
 #pragma once
 
-class QWidget;
+#include <QPointer>
+#include <QWidget>
 
 namespace kaldo {
 
@@ -20,6 +21,20 @@ void stayHere();
 /// button being pressed, the leave handler that is owed runs.
 void markAsEscape(QWidget *button);
 bool isEscape(const QWidget *widget);
+
+/// Gives the window that was active when it was made its activation back when it goes: around the
+/// loop of a modal window, for desktops whose window manager doesn't. Where none was active,
+/// `otherwise` is activated.
+class ActivationReturn {
+public:
+    explicit ActivationReturn(QWidget *otherwise = nullptr);
+    ~ActivationReturn();
+    ActivationReturn(const ActivationReturn &) = delete;
+    ActivationReturn &operator=(const ActivationReturn &) = delete;
+
+private:
+    QPointer<QWidget> window_;
+};
 
 /// The next or previous enabled, visible widget of the window that takes the focus by Tab; null if
 /// there is no other. Widgets inside `from` are passed over.

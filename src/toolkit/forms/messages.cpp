@@ -2,6 +2,7 @@
 
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
+#include "toolkit/forms/focus.h"
 
 #include <QDialog>
 #include <QHBoxLayout>
@@ -135,6 +136,7 @@ Answer BoxMessages::show(const Message &message) {
     if (ending()) {
         return Answer::Ended;
     }
+    const ActivationReturn activation;
     QWidget *parent = QApplication::activeModalWidget();
     Box box(message, parent ? parent : QApplication::activeWindow());
     const int result = box.exec();
