@@ -1,6 +1,7 @@
 #include "payments/frm401_3_payment_form.h"
 
 #include "tests/payments/sample_note.h"
+#include "tests/support/accessibility.h"
 #include "tests/support/keys.h"
 #include "tests/support/test_station.h"
 
@@ -55,15 +56,13 @@ protected:
     QString focused() const { return keyTarget()->objectName(); }
     QString shown(const char *name) const { return child<QLineEdit>(&form, name)->text(); }
     bool canAccept() const { return child<Button>(&form, "ImprimirRecibo")->isEnabled(); }
-    /// Card type by the box that an amount without one brings up.
+    /// Card type by the box that an amount without one brings up. Enter takes the first type, an
+    /// arrow the other.
     void typeCard(const QString &amount, bool debit) {
         station.messages.expectInformation(kChooseCard);
         typeText("5");
         EXPECT_EQ(focused(), "RadioGroup2_0");
-        if (!debit) {
-            press(Qt::Key_Right);
-        }
-        press(Qt::Key_Return);
+        press(debit ? Qt::Key_Return : Qt::Key_Right);
         EXPECT_EQ(focused(), "CEdit2");
         typeText(amount);
     }
@@ -145,6 +144,7 @@ TEST_F(PaymentForm, TheCardNeedsATypeAndStaysWithinTheNote) {
         press(Qt::Key_Tab, Qt::ShiftModifier);
         press(Qt::Key_Tab, Qt::ShiftModifier);
         typeCard("500.01", false);
+        test::checkAccessibility(form);
         test::picture(&form, "pago_tarjeta");
         station.messages.expectWarning(kCardTooMuch);
         press(Qt::Key_Return);
@@ -207,6 +207,7 @@ TEST_F(PaymentForm, AChequePaysAlone) {
         press(Qt::Key_A, Qt::ControlModifier);
         typeText("500");
         press(Qt::Key_Return);
+        test::checkAccessibility(form);
         test::picture(&form, "pago_cheque");
         press(Qt::Key_Return);
     });
@@ -311,6 +312,7 @@ TEST_F(PaymentForm, LayoutsFollowBenefitAndAdvance) {
         EXPECT_EQ(shown("CEdit8"), "$200.00");
         EXPECT_EQ(shown("CEdit11"), "$200.00");
         EXPECT_EQ(focused(), "CEdit4");
+        test::checkAccessibility(form);
         test::picture(&form, "pago_prestacion");
     });
     const Payment free = pay(noteDraft("ES - ESPECIALIDADES", lines, 100), [] {
