@@ -198,7 +198,7 @@ void FRM405::generar() {
     if (!caja.Qry405_2.isEmpty()) {
         progress.emplace(context().frame, caja.Qry405_2.count());
         BorrarCorte();
-        caja.CorteDetallado.open();
+        caja.CorteDetallado.openToAppend();
         do {
             CorteDetallado();
             progress->advance();
@@ -269,7 +269,7 @@ void FRM405::Totales() {
     const CutTotals totals =
         cutTotals(numCaja.toInt(), UsuarioCorte_, paymentSums(caja.Qry405_4), SaldoFinal_);
     NamedQuery &row = caja.Totales;
-    row.open();
+    row.openToAppend();
     row.append();
     row.set(QStringLiteral("num_caja"), numCaja);
     row.set(QStringLiteral("usuario"), totals.usuario);

@@ -152,13 +152,22 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
              &registra_historicodontologia_p, &registraiva, &BorrarDetalleVtas, &SP550,
              &CompletaCorteBancario});
 
+    // The rows of a note follow each other: its head is read once.
     Qry405_5.addCalculated(QStringLiteral("CLNombre"), [this](const NamedQuery::RowReader &row) {
+        const QVariant caja = row(QStringLiteral("num_caja"));
+        const QVariant nota = row(QStringLiteral("nota_vta"));
+        if (caja != cajaCLNombre_ || nota != notaCLNombre_) {
+            RegistroVtas.open(
+                {{QStringLiteral("num_caja"), caja}, {QStringLiteral("nota_vta"), nota}});
+            cajaCLNombre_ = caja;
+            notaCLNombre_ = nota;
+        }
         const QString nombre = row(QStringLiteral("nombre")).toString();
-        RegistroVtas.open({{QStringLiteral("num_caja"), row(QStringLiteral("num_caja"))},
-                           {QStringLiteral("nota_vta"), row(QStringLiteral("nota_vta"))}});
         const int matricula = RegistroVtas.integer(QStringLiteral("matricula"));
         return matricula > 0 ? QString::number(matricula) + u' ' + nombre : nombre;
     });
+    QObject::connect(&Qry405_5, &NamedQuery::modelAboutToBeReset, &Qry405_5,
+                     [this] { notaCLNombre_ = QVariant(); });
     Pesos.addCalculated(QStringLiteral("CLAnticipadas"),
                         [](const NamedQuery::RowReader &) { return 0; });
 }

@@ -61,6 +61,10 @@ public:
     Procedure BorrarDetalleVtas;
     Procedure SP550;
     Procedure CompletaCorteBancario;
+
+private:
+    QVariant cajaCLNombre_;  ///< the note that RegistroVtas holds for CLNombre
+    QVariant notaCLNombre_;
 };
 
 }  // namespace kaldo

@@ -96,7 +96,23 @@ void NamedQuery::start(const Parameters &values) {
     auto result = connection_->select(statement(), values_);
     beginResetModel();
     result_ = std::move(result);
-    columns_ = result_->columns();
+    takeColumns(result_->columns());
+    state_ = State::Browsing;
+    endResetModel();
+}
+
+void NamedQuery::takeColumns(const std::vector<Column> &stored) {
+    const std::size_t all = stored.size() + calculated_.size() + lookups_.size();
+    const auto same = [](const Column &left, const Column &right) {
+        return left.name == right.name && left.kind == right.kind && left.width == right.width;
+    };
+    if (lastColumns_.size() == all &&
+        std::equal(stored.begin(), stored.end(), lastColumns_.begin(), same)) {
+        columns_.swap(lastColumns_);
+        columnByName_.swap(lastColumnByName_);
+        return;
+    }
+    columns_ = stored;
     for (const Calculated &calculated : calculated_) {
         columns_.push_back({calculated.field, ColumnKind::Text, 0});
     }
@@ -107,8 +123,6 @@ void NamedQuery::start(const Parameters &values) {
     for (std::size_t at = 0; at < columns_.size(); ++at) {
         columnByName_.insert(columns_[at].name, static_cast<int>(at));
     }
-    state_ = State::Browsing;
-    endResetModel();
 }
 
 void NamedQuery::announceOpening() {
@@ -124,8 +138,8 @@ void NamedQuery::close() {
     beginResetModel();
     result_.reset();
     rows_.clear();
-    columns_.clear();
-    columnByName_.clear();
+    lastColumns_ = std::exchange(columns_, {});
+    lastColumnByName_ = std::exchange(columnByName_, {});
     pending_.reset();
     current_ = -1;
     state_ = State::Closed;

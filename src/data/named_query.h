@@ -148,6 +148,7 @@ private:
     int columnOf(const QString &field) const;
     int requireColumn(const QString &field) const;
     void start(const Parameters &values);
+    void takeColumns(const std::vector<Column> &stored);
     void announceOpening();
     QVariant lookUp(const Lookup &lookup, int row) const;
     void fetchPage(int rows);
@@ -169,6 +170,10 @@ private:
     Parameters values_;
     std::vector<Column> columns_;
     QHash<QString, int> columnByName_;
+    // Those of the last opening: a screen that reopens a query for each of thousands of notes
+    // finds the same columns.
+    std::vector<Column> lastColumns_;
+    QHash<QString, int> lastColumnByName_;
     std::vector<Calculated> calculated_;
     std::vector<Lookup> lookups_;
     std::unique_ptr<ResultSet> result_;
