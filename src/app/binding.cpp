@@ -28,8 +28,7 @@ void bindGrid(DataGrid *grid, NamedQuery *query) {
 }
 
 void bindLookup(LookupField *field, NamedQuery *query) {
-    connectGuarded(field, &LookupField::closedUp, field,
-                   [field, query] { query->moveTo(field->row()); });
+    connectGuarded(field, &LookupField::rowTaken, field, [query](int row) { query->moveTo(row); });
 }
 
 }  // namespace kaldo

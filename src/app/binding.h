@@ -10,8 +10,7 @@ class NamedQuery;
 /// the grid while it is open in the query. The query outlives the grid.
 void bindGrid(DataGrid *grid, NamedQuery *query);
 
-/// A drop-down whose picked row becomes the query's cursor before closedUp() reaches the screen's
-/// own handler: bind before connecting that.
+/// A drop-down whose picked row is the query's cursor by the time that closedUp() is told.
 void bindLookup(LookupField *field, NamedQuery *query);
 
 }  // namespace kaldo

@@ -43,7 +43,7 @@ int Dialog::showModal(ScreenBase *opener) {
     runGuarded([this] { activated(); });
     int result = 0;
     {
-        const ActivationReturn activation(parentWidget());
+        const ActivationReturn activation;
         result = exec();
     }
     if (opener != nullptr) {

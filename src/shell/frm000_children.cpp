@@ -5,8 +5,13 @@
 #include "shell/side_bar.h"
 #include "toolkit/forms/application.h"
 
+#include <QAbstractButton>
+#include <QKeySequence>
+#include <QLabel>
 #include <QLayout>
 #include <QMdiSubWindow>
+#include <QMenu>
+#include <QSet>
 
 namespace kaldo {
 
@@ -14,6 +19,20 @@ namespace {
 
 /// Screens stand this much above the middle, so that boxes over them don't hide their fields.
 constexpr int kAboveMiddle = 80;
+
+QSet<QKeySequence> mnemonicsOf(const QWidget *screen) {
+    QSet<QKeySequence> letters;
+    for (const auto *button : screen->findChildren<QAbstractButton *>()) {
+        letters += QKeySequence::mnemonic(button->text());
+    }
+    for (const auto *label : screen->findChildren<QLabel *>()) {
+        if (label->buddy() != nullptr) {
+            letters += QKeySequence::mnemonic(label->text());
+        }
+    }
+    letters -= QKeySequence();
+    return letters;
+}
 
 }  // namespace
 
@@ -48,10 +67,23 @@ void FRM000::openScreen(const ScreenMaker &maker) {
     connect(window, &QObject::destroyed, sideBar_, [this] {
         if (childScreen() == nullptr) {
             sideBar_->setVisible(sideBarWanted_);
+            shareMnemonics(nullptr);
         }
     });
     place(window);
+    shareMnemonics(screen);
     screen->open();
+}
+
+void FRM000::shareMnemonics(const QWidget *screen) {
+    const QSet<QKeySequence> taken = screen != nullptr ? mnemonicsOf(screen) : QSet<QKeySequence>();
+    for (const MenuHeading &heading : menuHeadings()) {
+        QString title = heading.caption;
+        if (taken.contains(QKeySequence::mnemonic(title))) {
+            title.remove(u'&');
+        }
+        headings_.value(heading.name)->setTitle(title);
+    }
 }
 
 void FRM000::place(QMdiSubWindow *window) {

@@ -105,6 +105,9 @@ private:
 
     void openScreen(const ScreenMaker &maker);
     void place(QMdiSubWindow *window);
+    /// Alt and a letter belong to the open screen first; a heading whose letter it uses is reached
+    /// by Alt alone and the arrows while the screen stands.
+    void shareMnemonics(const QWidget *screen);
     void Preliminar();
     void ConfigurarImpresora();
     void FiltroAdmision(const QString &entry, AdmissionFilter filter);

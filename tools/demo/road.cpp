@@ -114,7 +114,7 @@ void dossierNote(KeyScript &script) {
         .enter()
         .atBox(QStringLiteral("Desea usar la información seleccionada de"))
         .picture(QStringLiteral("dossier-question"))
-        .press(Qt::Key_S, {}, QStringLiteral("s"))
+        .enter()
         .at(kNote, QStringLiteral("Matricula"))
         .type(QStringLiteral("1100002"))
         .enter();
@@ -171,7 +171,7 @@ void noteThatFails(KeyScript &script, BreakingSeam &seam) {
 }
 
 void repair(KeyScript &script) {
-    script.alt('f')
+    script.menu(QStringLiteral("Funciones Especiales"))
         .choose(QStringLiteral("Recibos Incompletos"))
         .at(QStringLiteral("FRM801"))
         .picture(QStringLiteral("incomplete-receipts"))
@@ -203,7 +203,7 @@ void saveReport(KeyScript &script, const QString &pdf, const QString &pictureNam
 }
 
 void cashCut(KeyScript &script, const QString &pdfFolder) {
-    script.alt('c')
+    script.menu(QStringLiteral("Caja"))
         .choose(QStringLiteral("Corte de Caja"))
         .at(QStringLiteral("FRM405"))
         .picture(QStringLiteral("cash-cut"))
@@ -219,7 +219,7 @@ void leave(KeyScript &script) {
     script.at(QStringLiteral("FRM405"))
         .press(Qt::Key_F4, Qt::AltModifier)
         .atBox(QStringLiteral("¿Desea salir de KALDO?"))
-        .press(Qt::Key_S, {}, QStringLiteral("s"));
+        .enter();
 }
 
 }  // namespace

@@ -6,7 +6,9 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPainter>
 #include <QTest>
 #include <QWidget>
@@ -101,6 +103,20 @@ KeyScript &KeyScript::press(Qt::Key key, Qt::KeyboardModifiers modifiers, const 
         }
         strike(key, modifiers, text);
         return true;
+    });
+}
+
+KeyScript &KeyScript::menu(const QString &heading) {
+    press(Qt::Key_Alt);
+    return add(QLatin1String("the menu ") + heading, [this, heading] {
+        const auto *window = qobject_cast<QMainWindow *>(QApplication::activeWindow());
+        if (window == nullptr) {
+            return false;
+        }
+        const QAction *action = window->menuBar()->activeAction();
+        const bool there = action != nullptr && action->text().remove(u'&') == heading;
+        strike(there ? Qt::Key_Down : Qt::Key_Right, {}, QString());
+        return there;
     });
 }
 

@@ -30,6 +30,8 @@ public:
     KeyScript &press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString &text = {});
     /// Alt and a letter.
     KeyScript &alt(char letter);
+    /// Goes to a heading of the menu bar by Alt and the arrows, and opens it.
+    KeyScript &menu(const QString &heading);
     /// Moves down an open menu to the entry with this caption and presses Enter on it.
     KeyScript &choose(const QString &caption);
     KeyScript &enter() { return press(Qt::Key_Return); }

@@ -3,7 +3,8 @@
 #include "toolkit/forms/choice.h"
 #include "toolkit/forms/focus_keeper.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QMainWindow>
 #include <QPainter>
 #include <QTimer>
 
@@ -190,8 +191,20 @@ QWidget *nextInTabOrder(QWidget *from, bool forward) {
     return nullptr;
 }
 
-ActivationReturn::ActivationReturn(QWidget *otherwise)
-    : window_(QApplication::activeWindow() != nullptr ? QApplication::activeWindow() : otherwise) {}
+QWidget *windowInFront() {
+    if (QWidget *modal = QApplication::activeModalWidget()) {
+        return modal;
+    }
+    if (QWidget *active = QApplication::activeWindow()) {
+        return active;
+    }
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && qobject_cast<QMainWindow *>(window) != nullptr) {
+            return window;
+        }
+    }
+    return nullptr;
+}
 
 ActivationReturn::~ActivationReturn() {
     if (window_ && window_->isVisible() && QApplication::activeWindow() != window_) {

@@ -22,12 +22,15 @@ void stayHere();
 void markAsEscape(QWidget *button);
 bool isEscape(const QWidget *widget);
 
-/// Gives the window that was active when it was made its activation back when it goes: around the
-/// loop of a modal window, for desktops whose window manager doesn't. Where none was active,
-/// `otherwise` is activated.
+/// The window that a person would call the one in front: the modal one, else the active one, else,
+/// while the desktop is between two windows, the main window. Null if none is shown.
+QWidget *windowInFront();
+
+/// Gives the window in front its activation back when it goes: around the loop of a modal window,
+/// for desktops whose window manager doesn't.
 class ActivationReturn {
 public:
-    explicit ActivationReturn(QWidget *otherwise = nullptr);
+    ActivationReturn() : window_(windowInFront()) {}
     ~ActivationReturn();
     ActivationReturn(const ActivationReturn &) = delete;
     ActivationReturn &operator=(const ActivationReturn &) = delete;

@@ -21,6 +21,7 @@ LookupField::LookupField(QWidget *parent)
     connectGuarded(list_, &ListPopup::picked, this, [this](int row) {
         take(row);
         selectAll();
+        emit rowTaken(row);
         emit closedUp();
     });
     connectGuarded(list_, &ListPopup::cancelled, this, &LookupField::cancelled);
@@ -119,6 +120,7 @@ bool LookupField::commit() {
         return false;
     }
     take(found);
+    emit rowTaken(row());
     emit closedUp();
     return true;
 }

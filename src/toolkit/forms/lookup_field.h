@@ -49,6 +49,9 @@ public:
     void setFieldReadOnly(bool readOnly) override;
 
 signals:
+    /// The user picked this row of the model; right before closedUp(), for what must follow the
+    /// field before any screen looks.
+    void rowTaken(int row);
     /// The user picked a row; row() and text() hold it.
     void closedUp();
     /// The list was closed by Escape.

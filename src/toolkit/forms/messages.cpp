@@ -137,8 +137,7 @@ Answer BoxMessages::show(const Message &message) {
         return Answer::Ended;
     }
     const ActivationReturn activation;
-    QWidget *parent = QApplication::activeModalWidget();
-    Box box(message, parent ? parent : QApplication::activeWindow());
+    Box box(message, windowInFront());
     const int result = box.exec();
     if (ending()) {
         return Answer::Ended;
