@@ -115,10 +115,11 @@ private:
 /// What stands in the databases, looked at behind the program's back.
 class Records {
 public:
-    explicit Records(const QString &root)
+    /// `server`: "host/port:", or nothing for the files themselves.
+    explicit Records(const QString &root, const QString &server = {})
         : clinic(QStringLiteral("clinic"), {}), finance(QStringLiteral("finance"), {}) {
-        clinic.setDatabase(root + QStringLiteral("/DataBase/BD_ODONTOLOGIA.GDB"));
-        finance.setDatabase(root + QStringLiteral("/DataBase/BD_FINANZAS.GDB"));
+        clinic.setDatabase(server + root + QStringLiteral("/DataBase/BD_ODONTOLOGIA.GDB"));
+        finance.setDatabase(server + root + QStringLiteral("/DataBase/BD_FINANZAS.GDB"));
     }
 
     /// The rows as text: columns parted by "|", rows by "; ".
