@@ -7,6 +7,7 @@
 #include <QTextStream>
 #include <QTranslator>
 
+#include <csignal>
 #include <cstdio>
 
 namespace {
@@ -77,5 +78,11 @@ int main(int argc, char **argv) {
     kaldo::ProgramSettings settings;
     settings.root = kaldo::Installation::rootFromEnvironment(arguments);
     kaldo::Program program(settings);
-    return program.run();
+    if (!program.start()) {
+        return 0;
+    }
+    // The database engine in the process takes these for itself and then ends nothing.
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+    return QCoreApplication::exec();
 }

@@ -131,7 +131,7 @@ void FRMAcceso::activated() {
         }
     }
     main_.setEnabled(false);
-    setEnabled(true);
+    setEnabled(true);  // it belongs to the main window
 }
 
 void FRMAcceso::CheckBox1Click() {

@@ -59,6 +59,8 @@ void FRMPass::reset() {
     }
     BitBtn1_->setEnabled(false);
     Edit1_->setFocus();
+    // The main window is disabled under the login, and with it the windows that belong to it.
+    setEnabled(true);
 }
 
 bool FRMPass::checkCurrent() {

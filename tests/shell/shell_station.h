@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QLabel>
+#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -64,7 +65,7 @@ public:
                 settle();
                 if (dialog.isVisible()) {
                     stillOpen = true;
-                    dialog.QDialog::done(QDialog::Rejected);
+                    dialog.done(QDialog::Rejected);
                 }
             } else if (ran && !dialog.isVisible()) {
                 loop.quit();

@@ -1,0 +1,282 @@
+#include "tests/shell/shell_station.h"
+
+#include "shell/menu_entries.h"
+#include "tests/support/accessibility.h"
+
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QSignalSpy>
+
+namespace kaldo::test {
+
+namespace {
+
+/// A child screen that remembers what was asked of it.
+class PlainScreen : public Screen {
+public:
+    PlainScreen(Context &context, const QString &name, bool printer = false)
+        : Screen(context, name, "Prueba"), printer_(printer) {
+        setFixedSize(400, 200);
+        auto *field = new QLineEdit(this);
+        field->setObjectName("field");
+        setFocusProxy(field);
+    }
+    void activated() override { log += "activated"; }
+    bool previewReport() override {
+        log += "preview";
+        return true;
+    }
+    bool keepsPrinter() const override { return printer_; }
+
+    QStringList log;
+    bool fails = false;
+
+protected:
+    void formCreate() override {
+        log += "created";
+        if (objectName() == "FRM999") {
+            throw std::runtime_error("a medias");
+        }
+    }
+
+private:
+    bool printer_;
+};
+
+void setPlain(ShellStation &station, const QString &entry, const QString &name,
+              bool printer = false) {
+    station.window().setScreen(entry, [&station, name, printer] {
+        return std::make_unique<PlainScreen>(station.program->context(), name, printer);
+    });
+}
+
+PlainScreen *plain(ShellStation &station) {
+    return dynamic_cast<PlainScreen *>(station.window().childScreen());
+}
+
+}  // namespace
+
+TEST(MainWindow, MenuHasItsHeadingsAndEntries) {
+    ShellStation station;
+    ASSERT_TRUE(station.start());
+    QStringList headings;
+    for (const QAction *heading : station.window().menuBar()->actions()) {
+        headings += heading->text().remove(u'&');
+    }
+    EXPECT_EQ(headings.join(u'|'),
+              "Archivo|Mantenimiento|Recepción|Admisión|Caja|Control de Expedientes|Almacén|"
+              "Reportes|Administración|Funciones Especiales|Ayuda");
+    EXPECT_EQ(station.window().action("H2a")->text(), "Igresos por Area de Servicio");
+    EXPECT_EQ(station.window().action("K3")->text(), "Acerca de...");
+    QSet<QString> names;
+    for (const MenuHeading &heading : menuHeadings()) {
+        for (const MenuEntry &entry : heading.entries) {
+            const QString name = QString::fromLatin1(entry.name);
+            EXPECT_TRUE(name.isEmpty() || !names.contains(name)) << entry.name;
+            names.insert(name);
+        }
+    }
+    for (const ToolEntry &tool : toolEntries()) {
+        EXPECT_TRUE(names.contains(QString::fromLatin1(tool.entry))) << tool.caption;
+    }
+}
+
+TEST(MainWindow, OneChildAtATimeAndAFreshOneEachTime) {
+    ShellStation station;
+    station.logIn("cajero1", "caja1");
+    setPlain(station, "E1", "FRM998");
+    setPlain(station, "E6", "FRM997");
+    station.window().openEntry("E1");
+    settle();
+    QPointer<PlainScreen> first = plain(station);
+    ASSERT_TRUE(first);
+    EXPECT_EQ(first->log.join(' '), "created activated");
+    const QRect frame = first->parentWidget()->geometry();
+    const QSize area = child<QMdiArea>(&station.window(), "backdrop")->viewport()->size();
+    EXPECT_EQ(frame.left(), (area.width() - frame.width()) / 2);
+    EXPECT_EQ(frame.top(), qMax(0, (area.height() - frame.height()) / 2 - 80));
+    station.window().openEntry("E1");
+    settle();
+    EXPECT_FALSE(first) << "the same entry closes the screen and creates it afresh";
+    EXPECT_EQ(plain(station)->log.join(' '), "created activated");
+    station.window().openEntry("E6");
+    settle();
+    EXPECT_EQ(station.window().childScreen()->objectName(), "FRM997");
+    emit plain(station)->closeRequested();
+    EXPECT_EQ(station.window().childScreen(), nullptr);
+    settle();
+    EXPECT_EQ(station.window().findChildren<QMdiSubWindow *>().size(), 0);
+}
+
+TEST(MainWindow, ScreenThatFailsHalfWayStaysOpen) {
+    ShellStation station;
+    station.logIn("cajero1", "caja1");
+    setPlain(station, "E1", "FRM999");
+    station.messages.expectError("a medias");
+    station.window().openEntry("E1");
+    settle();
+    ASSERT_NE(plain(station), nullptr);
+    EXPECT_EQ(plain(station)->log.join(' '), "created activated");
+}
+
+TEST(MainWindow, SecondOwnerOfAKeyGetsItWhenTheFirstIsDisabled) {
+    ShellStation station;
+    station.logIn("admin", "admin");
+    // Both may: the first in the menu has it.
+    EXPECT_EQ(station.window().action("B6")->shortcut(), QKeySequence("Ctrl+E"));
+    EXPECT_TRUE(station.window().action("D1")->shortcut().isEmpty());
+    station.window().setEntryEnabled("B6", false);
+    EXPECT_EQ(station.window().action("D1")->shortcut(), QKeySequence("Ctrl+E"));
+    // The cashier has no catalogues.
+    station.inDialog(
+        station.login(), [&] { station.window().openEntry("J1"); },
+        [&] { station.typeUser("cajero1", "caja1"); });
+    EXPECT_EQ(station.window().action("E1")->shortcut(), QKeySequence("Ctrl+G"));
+    setPlain(station, "E1", "FRM998");
+    showActive(&station.window());
+    QTest::keyClick(&station.window(), Qt::Key_G, Qt::ControlModifier);
+    settle();
+    ASSERT_NE(plain(station), nullptr);
+    EXPECT_EQ(plain(station)->objectName(), "FRM998");
+}
+
+TEST(MainWindow, TextFieldKeepsItsOwnKeys) {
+    ShellStation station;
+    station.logIn("admin", "admin");
+    setPlain(station, "E1", "FRM998");
+    station.window().openEntry("E1");
+    showActive(&station.window());
+    auto *field = child<QLineEdit>(plain(station), "field");
+    field->setText("texto");
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(field->selectedText(), "texto");
+    EXPECT_NE(plain(station), nullptr) << "Ctrl+A is also \"Centros de atención\"";
+}
+
+TEST(MainWindow, EntriesSayWhatIsNotBuiltAndDoNothingWhereNothingIsTold) {
+    ShellStation station;
+    station.logIn("admin", "admin");
+    station.messages.expectInformation(QStringLiteral(
+        "La pantalla «Centros de atención» todavía no está disponible en esta versión."));
+    station.window().openEntry("B1");
+    station.window().openEntry("J3");
+    station.window().openEntry("H2a");
+    station.window().openEntry("C1");  // disabled for this profile
+    station.messages.expectError(QStringLiteral("La pantalla de abonos no está abierta."));
+    station.window().openEntry("E7");
+    station.messages.expectInformation(
+        QStringLiteral("El manual de ayuda no está instalado en esta estación."));
+    station.window().openEntry("K1");
+    settle();
+}
+
+TEST(MainWindow, ControlPanelEntryIsMuteForTheDesks) {
+    ShellStation station;
+    station.logIn("admision", "adm");
+    station.window().setEntryEnabled("A3", true);
+    station.window().openEntry("A3");
+    EXPECT_TRUE(station.messages.shown().isEmpty());
+}
+
+TEST(MainWindow, PreviewAsksTheOpenScreenOfTheList) {
+    ShellStation station;
+    station.logIn("admin", "admin");
+    setPlain(station, "B2", "FRM105");
+    setPlain(station, "E1", "FRM401");
+    station.window().openEntry("B2");
+    station.window().openEntry("A1");
+    EXPECT_EQ(plain(station)->log.count("preview"), 1);
+    station.window().openEntry("E1");
+    station.window().openEntry("A1");
+    EXPECT_EQ(plain(station)->log.count("preview"), 0);
+}
+
+TEST(MainWindow, PrinterIsKeptForScreensThatUseIt) {
+    ShellStation station;
+    station.logIn("admin", "admin");
+    station.printing.chosenPrinter = 3;
+    station.window().openEntry("A2");
+    EXPECT_EQ(station.session().ImpresoraIndice, -1);
+    setPlain(station, "E6", "FRM405", true);
+    station.window().openEntry("E6");
+    station.window().openEntry("A2");
+    EXPECT_EQ(station.session().ImpresoraIndice, 3);
+}
+
+TEST(MainWindow, AdmissionFilterMarksOneEntry) {
+    ShellStation station;
+    station.logIn("cajero1", "caja1");
+    EXPECT_TRUE(station.window().action("D1a")->isChecked());
+    station.window().openEntry("D1c");
+    EXPECT_EQ(station.session().FiltroAdmision, AdmissionFilter::LastMonth);
+    EXPECT_FALSE(station.window().action("D1a")->isChecked());
+    EXPECT_TRUE(station.window().action("D1c")->isChecked());
+}
+
+TEST(MainWindow, ProgressHoldsMenuAndClosing) {
+    ShellStation station;
+    station.logIn("cajero1", "caja1");
+    auto *bar = child<QProgressBar>(&station.window(), "progressBar");
+    {
+        Progress progress(station.window(), 4);
+        EXPECT_TRUE(bar->isVisible());
+        EXPECT_FALSE(station.window().menuBar()->isEnabled());
+        QList<int> values;
+        for (int at = 0; at < 6; ++at) {
+            progress.advance();
+            values += bar->value();
+        }
+        EXPECT_EQ(values, (QList<int>{1, 2, 3, 4, 0, 1})) << "at its end it starts again";
+        station.window().close();
+        EXPECT_TRUE(station.messages.shown().isEmpty());
+        station.messages.expectConfirmation(QStringLiteral("¿Desea salir de KALDO?"), Answer::No);
+    }
+    EXPECT_FALSE(bar->isVisible());
+    EXPECT_TRUE(station.window().menuBar()->isEnabled());
+    settle();
+    EXPECT_EQ(station.messages.shown().size(), 1) << "what was asked meanwhile happens after";
+    EXPECT_TRUE(station.window().isVisible());
+}
+
+TEST(MainWindow, ClosingHourIsToldOnce) {
+    ShellStation station;
+    station.tick = std::chrono::milliseconds(5);
+    station.installation.setIni("Equipo", "apagar", "S");
+    station.installation.setIni("Equipo", "hora", "20:00:00");
+    station.clock.set(QDateTime(QDate(2024, 6, 3), QTime(19, 59, 58)));
+    ASSERT_TRUE(station.start());
+    QSignalSpy hours(&station.window(), &FRM000::closingHour);
+    QTest::qWait(40);
+    EXPECT_EQ(station.panel(6), "   19:59:58");
+    EXPECT_EQ(hours.count(), 0);
+    station.clock.set(QDateTime(QDate(2024, 6, 3), QTime(20, 0, 2)));
+    QTest::qWait(40);
+    EXPECT_EQ(hours.count(), 1);
+    EXPECT_TRUE(station.panel(2).contains(QStringLiteral("hora de cierre")));
+}
+
+TEST(MainWindowDeathTest, YesEndsTheApplication) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto body = [] {
+        ShellStation station;
+        station.logIn("cajero1", "caja1");
+        station.messages.expectConfirmation(QStringLiteral("¿Desea salir de KALDO?"), Answer::Yes);
+        station.window().openEntry("A4");
+        const bool ended = Application::current()->ending();
+        station.messages.verify();
+        std::exit(ended && !::testing::Test::HasFailure() ? 0 : 1);
+    };
+    EXPECT_EXIT(body(), ::testing::ExitedWithCode(0), "");
+}
+
+TEST(MainWindow, LoginIsFitForTheKeyboard) {
+    ShellStation station;
+    station.atLogin([&] { checkAccessibility(station.login()); });
+}
+
+}  // namespace kaldo::test
