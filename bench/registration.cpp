@@ -1,0 +1,127 @@
+#include <QProcess>
+
+#include <stdexcept>
+#include <thread>
+
+#include "bench/measurements.h"
+#include "bench/note_typist.h"
+#include "bench/replay.h"
+
+namespace kaldo::bench {
+
+namespace {
+
+using test::TestInstallation;
+
+constexpr int kWarmUps = 3;
+constexpr int kRuns = 25;
+
+/// Two installations of stations that print nothing: receipts have a measurement of their own.
+struct Installations {
+    Installations() {
+        printNoReceipts(*own);
+        printNoReceipts(*bare);
+    }
+    std::shared_ptr<TestInstallation> own = std::make_shared<TestInstallation>();
+    std::shared_ptr<TestInstallation> bare = std::make_shared<TestInstallation>();
+};
+
+/// The same note bare, at the pace of the cashier: what an engine does in the background while she
+/// types, it does on both sides.
+double replayed(BareClient &bare, const NoteTypist::Timed &note) {
+    bare.repeat(note.typing);
+    const auto log = bare.prepare(note.registering);
+    std::this_thread::sleep_for(std::chrono::duration<double, std::milli>(note.typed));
+    const double started = milliseconds();
+    bare.play(*log);
+    return milliseconds() - started;
+}
+
+/// Notes by the cashier and bare, turn by turn, each over databases in the same state. A run is a
+/// note of each kind, and tells the time of one.
+Results measure(const Installations &installations, const QString &where, double bar) {
+    BenchStation station(installations.own, installations.bare);
+    station.logIn(QStringLiteral("cajero1"));
+    NoteTypist cashier(station);
+    BareClient bare([&](const QString &connection) { return station.twinOf(connection); });
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    std::vector<double> repaints;
+    for (int run = 0; run < kWarmUps + kRuns; ++run) {
+        double own = 0;
+        double other = 0;
+        double repaint = 0;
+        for (int kind = 0; kind < NoteTypist::kKinds; ++kind) {
+            const NoteTypist::Timed note = cashier.registerNote();
+            other += replayed(bare, note) / NoteTypist::kKinds;
+            own += note.milliseconds / NoteTypist::kKinds;
+            repaint += note.repaint / NoteTypist::kKinds;
+        }
+        if (run >= kWarmUps) {
+            ours.push_back(own);
+            theirs.push_back(other);
+            repaints.push_back(repaint);
+        }
+    }
+    return {{.name = QStringLiteral("registering a note, ") + where,
+             .kaldo = median(ours),
+             .bare = median(theirs),
+             .bar = bar,
+             .runs = kRuns},
+            {.name = QStringLiteral("  painting the fresh screen after it"),
+             .kaldo = median(repaints),
+             .runs = kRuns}};
+}
+
+/// A private server over an installation, as scripts/server runs it, for the life of the object.
+class Server {
+public:
+    explicit Server(const QString &root) : root_(root) {
+        for (int port = 3071; port < 3091; ++port) {
+            if (command({"start", root_, "--port", QString::number(port)})) {
+                host = QStringLiteral("localhost/%1:").arg(port);
+                return;
+            }
+        }
+        throw std::runtime_error("no server could be started");
+    }
+    ~Server() { command({"stop", root_}); }
+    Server(const Server &) = delete;
+    Server &operator=(const Server &) = delete;
+
+    QString host;
+
+private:
+    static bool command(const QStringList &arguments) {
+        QProcess process;
+        process.setStandardOutputFile(QProcess::nullDevice());
+        process.setStandardErrorFile(QProcess::nullDevice());
+        process.start(QStringLiteral(KALDO_SOURCE_DIR "/scripts/server"), arguments);
+        return process.waitForFinished(60000) && process.exitCode() == 0;
+    }
+
+    QString root_;
+};
+
+}  // namespace
+
+Results registrationEmbedded() {
+    return measure(Installations(), QStringLiteral("embedded engine"), 1.15);
+}
+
+Results registrationWithoutForcedWrites() {
+    const Installations installations;
+    writeUnforced(*installations.own);
+    writeUnforced(*installations.bare);
+    return measure(installations, QStringLiteral("embedded engine, forced writes off"), 1.5);
+}
+
+Results registrationOnServer() {
+    const Installations installations;
+    const Server server(installations.own->root());
+    reachThrough(*installations.own, server.host);
+    reachThrough(*installations.bare, server.host);
+    return measure(installations, QStringLiteral("server"), 1.15);
+}
+
+}  // namespace kaldo::bench
