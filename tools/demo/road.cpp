@@ -151,7 +151,7 @@ void chequeNote(KeyScript &script) {
         .type(QStringLiteral("771"))
         .enter()
         .at(kPayment, QStringLiteral("CEdit5"))
-        .type(QStringLiteral("5000"))
+        .type(QStringLiteral("180"))
         .enter();
     accept(script, QStringLiteral("cheque-payment"));
 }
@@ -159,7 +159,7 @@ void chequeNote(KeyScript &script) {
 void noteThatFails(KeyScript &script, BreakingSeam &seam) {
     writePublicNote(script, QStringLiteral("2"));
     openPayment(script, QStringLiteral("failing-note"));
-    script.type(QStringLiteral("5000"))
+    script.type(QStringLiteral("500"))
         .enter()
         .at(kPayment, QStringLiteral("ImprimirRecibo"))
         .call([&seam] { seam.breakNext(QStringLiteral("registraiva")); })
@@ -187,7 +187,7 @@ void noteAgain(KeyScript &script) {
     script.press(Qt::Key_G, Qt::ControlModifier);
     writePublicNote(script, QStringLiteral("2"));
     openPayment(script, QStringLiteral("note-again"));
-    payInPesos(script, QStringLiteral("5000"), QStringLiteral("note-again-payment"));
+    payInPesos(script, QStringLiteral("500"), QStringLiteral("note-again-payment"));
 }
 
 void saveReport(KeyScript &script, const QString &pdf, const QString &pictureName) {

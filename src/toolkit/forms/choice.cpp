@@ -186,6 +186,16 @@ void RadioGroup::setFieldReadOnly(bool readOnly) {
 }
 
 bool RadioGroup::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::FocusIn) {
+        // Tab comes to the chosen button from either side.
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        QAbstractButton *chosen = buttons_->checkedButton();
+        if ((reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) && chosen &&
+            chosen != watched) {
+            chosen->setFocus(reason);
+            return true;
+        }
+    }
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;

@@ -4,6 +4,7 @@
 #include "toolkit/forms/focus_keeper.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPainter>
 #include <QTimer>
@@ -27,8 +28,12 @@ void giveFocus(QWidget *widget) {
         group->focusChoice(Qt::TabFocusReason);
         return;
     }
-    // The reason of the Tab key: the text is selected and the next key replaces it.
+    // The reason of the Tab key: the text is selected and the next key replaces it. A window that
+    // is just getting its activation back passes another reason on, so it is selected here too.
     widget->setFocus(Qt::TabFocusReason);
+    if (auto *line = qobject_cast<QLineEdit *>(widget); line && !line->isReadOnly()) {
+        line->selectAll();
+    }
 }
 
 }  // namespace

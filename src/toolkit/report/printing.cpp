@@ -92,6 +92,22 @@ PrintingHost withDefaults(PrintingHost host) {
     return host;
 }
 
+/// Gives the window below a dialog its activation back, where no window manager does.
+class BelowDialog {
+public:
+    explicit BelowDialog(QWidget *window) : window_(window) {}
+    ~BelowDialog() {
+        if (window_ != nullptr && window_->isVisible()) {
+            window_->activateWindow();
+        }
+    }
+    BelowDialog(const BelowDialog &) = delete;
+    BelowDialog &operator=(const BelowDialog &) = delete;
+
+private:
+    QWidget *window_;
+};
+
 }  // namespace
 
 SystemPrinting::SystemPrinting(const QString &pdfFolder, PrintingHost host)
@@ -171,9 +187,11 @@ void SystemPrinting::preview(const Document &document, const QString &title, QWi
     };
     PreviewActions actions;
     actions.print = [&, this](QWidget *window) {
+        const BelowDialog below(window);
         return told(window, [&] { return printAsking(window, document, title, options.printer); });
     };
     actions.savePdf = [&, this](QWidget *window) {
+        const BelowDialog below(window);
         return told(window, [&] { return saveAsking(window, document, title); });
     };
     PreviewWindow window(document, title, options, std::move(actions), parent);
