@@ -60,6 +60,11 @@ LookupSource dossierSource(NamedQuery *query) {
              {QStringLiteral("CENTRO"), QStringLiteral("Centro"), 7, CellMask::Text}}};
 }
 
+/// Bound before the screen's own handler is connected: that one finds the cursor on the row.
+std::function<void(LookupField *)> boundTo(NamedQuery *query) {
+    return [query](LookupField *field) { bindLookup(field, query); };
+}
+
 void retainRoom(QWidget *widget) {
     QSizePolicy policy = widget->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -73,9 +78,6 @@ void FRM401::buildForm() {
     build(this,
           column({headingItems(), serviceItems(), patientItems(), linesItems(), totalsItems()}));
     keepRoomWhenHidden();
-    bindLookup(ComboBox2_, &context().odonto.serviciosxctros);
-    bindLookup(ComboBox3_, &context().odonto.AreaAtencion);
-    bindLookup(listaExpedientes_, &context().odonto.CargarExp);
     bindGrid(grid_, &context().local.FBDetalleVtas);
     wireGrid();
     prestacionLabel_ = findChild<QLabel *>(QStringLiteral("CEdit1_label"));
@@ -98,12 +100,12 @@ form::Item FRM401::headingItems() {
         return label(where, QString::fromLatin1(name)).bold();
     };
     return row({panel(nullptr, QStringLiteral("PanelEncabezado"),
-                      column({row({caption("Cajero:"), value(&cajero_, "Cajero"), stretch()}),
-                              row({caption("Centro:"), value(&centro_, "Centro"), stretch()})})),
+                      column({row({caption("Cajero:"), value(&cajero_, "Cajero").grow()}),
+                              row({caption("Centro:"), value(&centro_, "Centro").grow()})})),
                 panel(nullptr, QStringLiteral("PanelTurno"),
                       column({row({caption("Turno:"), value(&turno_, "Turno"), stretch()}),
-                              row({caption("Caja:"), value(&caja_, "Caja"), stretch()})})),
-                stretch(),
+                              row({caption("Caja:"), value(&caja_, "Caja"), stretch()})}))
+                    .with([](QWidget *panel) { panel->setContentsMargins(8, 0, 8, 0); }),
                 radio(&RadioGroup1_, QStringLiteral("RadioGroup1"), QStringLiteral("Selecciona"))
                     .options({QStringLiteral("Registrar"), QStringLiteral("Consultar")})
                     .clicked([this](int) { RadioGroup1Click(); }),
@@ -126,6 +128,7 @@ form::Item FRM401::serviceItems() {
          lookup(&ComboBox2_, QStringLiteral("ComboBox2"), QStringLiteral("Clasif. del Servicio"))
              .source(descriptions(&context().odonto.serviciosxctros, QStringLiteral("TIPO_PROD"),
                                   QStringLiteral("Clasif. del Servicio")))
+             .with(boundTo(&context().odonto.serviciosxctros))
              .closedUp([this] { elegirArea(); })
              .grow(),
          strip(
@@ -133,6 +136,7 @@ form::Item FRM401::serviceItems() {
              {lookup(&ComboBox3_, QStringLiteral("ComboBox3"), QStringLiteral("Lugar de Atención"))
                   .source(descriptions(&context().odonto.AreaAtencion, QStringLiteral("AREA"),
                                        QStringLiteral("Lugar de Atención")))
+                  .with(boundTo(&context().odonto.AreaAtencion))
                   .closedUp([this] { elegirLugar(); })
                   .above()
                   .grow()})
@@ -160,6 +164,7 @@ form::Item FRM401::patientItems() {
              .shown(10)
              .key(Qt::Key_F5, [this] { consultarExpedientes_->click(); })
              .arrive([this] { listaExpedientes_->openList(); })
+             .with(boundTo(&context().odonto.CargarExp))
              .closedUp([this] { tomarExpediente(); })
              .cancelled([this] { cancelarLista(); }),
          text(&tipoPaciente_, QStringLiteral("TipoPaciente"), QStringLiteral("Tipo de Paciente"))
@@ -211,7 +216,9 @@ form::Item FRM401::patientItems() {
               {date(&DateEdit2_, QStringLiteral("DateEdit2"), QStringLiteral("Fec. de Nacimiento"))
                    .leave([this] { leaveNacimiento(); }),
                text(&edad_, QStringLiteral("Edad"), QStringLiteral("Edad")).width(3).readOnly(),
-               radio(&sexo_, QStringLiteral("RadioGroup2"), QStringLiteral("Sexo"))
+               label(QStringLiteral("Sexo")),
+               radio(&sexo_, QStringLiteral("RadioGroup2"), QString())
+                   .accessible(QStringLiteral("Sexo"))
                    .options({QStringLiteral("Femenino"), QStringLiteral("Masculino")})
                    .clicked([this](int) { elegirSexo(); }),
                stretch()});
@@ -219,7 +226,7 @@ form::Item FRM401::patientItems() {
         &panelEmpleado_, QStringLiteral("PanelEmpleado"),
         {label(QStringLiteral("Empleado:")), label(&empleado_, QStringLiteral("Empleado")).bold(),
          label(QStringLiteral("Dependencia:")),
-         label(&dependencia_, QStringLiteral("Dependencia")).bold(), stretch()});
+         label(&dependencia_, QStringLiteral("Dependencia")).bold().grow()});
     // Enabled and disabled as one for the path of the service; the birth strip and the employee's
     // benefit never stand together and share their row.
     return column(
@@ -298,6 +305,13 @@ void FRM401::keepRoomWhenHidden() {
         retainRoom(widget);
     }
     panelDatos_->setMinimumHeight(panelDatos_->sizeHint().height());
+    // The lines take what height there is; long names are cut rather than widen the screen.
+    for (QWidget *panel : {panelPaciente_, panelOtros_, panelDatos_}) {
+        panel->setSizePolicy(panel->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
+    }
+    for (QLabel *name : {cajero_, centro_, origen_, dependencia_}) {
+        name->setSizePolicy(QSizePolicy::Ignored, name->sizePolicy().verticalPolicy());
+    }
 }
 
 }  // namespace kaldo

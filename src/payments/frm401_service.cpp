@@ -104,14 +104,13 @@ void FRM401::openPriceListForAge(int edad) {
 
 /// "Clave" of the grid chooses from the list in force.
 void FRM401::showPriceList() {
-    const QString key = QStringLiteral("CVE_PROD");
     grid_->setLookup(
-        key, {precios_,
-              key,
-              key,
-              {{QStringLiteral("CVE_PROD"), QStringLiteral("Clave"), 8, CellMask::Integer},
-               {QStringLiteral("DESCR"), QStringLiteral("Descripción"), 60, CellMask::Text},
-               {QStringLiteral("MENUDEO"), QStringLiteral("Precio"), 14, CellMask::MoneyTight}}});
+        QStringLiteral("CVE_PROD"),
+        {precios_,
+         QStringLiteral("CVE_PROD"),
+         QStringLiteral("DESCR"),
+         {{QStringLiteral("DESCR"), QStringLiteral("Descripción"), 62, CellMask::Text},
+          {QStringLiteral("MENUDEO"), QStringLiteral("Precio"), 14, CellMask::MoneyTight}}});
 }
 
 /// Dossiers are not opened at this desk yet: the choice is taken back.

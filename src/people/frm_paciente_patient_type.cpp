@@ -41,6 +41,8 @@ void FRMPaciente::build() {
             lookup(&paciente_, QStringLiteral("Paciente"), QStringLiteral("Paciente"))
                 .source(types)
                 .shown(44)
+                .with(
+                    [this](LookupField *field) { bindLookup(field, &context().caja.PrestacionSB); })
                 .closedUp([this] { elegirTipo(); }),
             strip(&panelEmpleado_, QStringLiteral("PanelEmpleado"),
                   {text(&noEmpleado_, QStringLiteral("NoEmpleado"), QStringLiteral("No.Empleado"))
@@ -63,7 +65,6 @@ void FRMPaciente::build() {
                      .icon(QStringLiteral("next"))
                      .clicked([this] { continuar(); })}),
         }));
-    bindLookup(paciente_, &context().caja.PrestacionSB);
     // The panels keep their room, so that nothing jumps when a class needs them.
     for (QWidget *panel : {panelEmpleado_, panelDependencia_}) {
         QSizePolicy policy = panel->sizePolicy();
