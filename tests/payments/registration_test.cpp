@@ -37,6 +37,7 @@ TEST_F(Registering, AnAdmissionNoteWritesEverythingThatIsReadBack) {
     const double price = draft.lines[0].precio;
     const Payment payment = paidWith(draft, 10, 1, price);
     ASSERT_TRUE(desk.registers(draft, payment));
+    EXPECT_EQ(desk.messages.boxes().last().title, "Información");
 
     const QString total = QString::number(price);
     EXPECT_EQ(
@@ -319,6 +320,7 @@ TEST_F(Registering, APrinterThatFailsLeavesTheNoteWrittenAndCounted) {
     const NoteDraft draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
     desk.printing.onPrint = [] { throw report::PrintError("sin papel"); };
     EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    EXPECT_EQ(desk.messages.boxes().last().title, "Información");
     EXPECT_EQ(rows("registrovtas", "status, fecha", 1), "GE|" + today());
     EXPECT_EQ(desk.nextNote(), 2);
     EXPECT_EQ(desk.frame.figuresRefreshed, 0);
