@@ -100,9 +100,9 @@ void FRM000::place(QMdiSubWindow *window) {
         window->showMaximized();
         return;
     }
-    const QSize middle = (area - size) / 2;
-    window->setGeometry(
-        QRect(QPoint(middle.width(), qMax(0, middle.height() - kAboveMiddle)), size));
+    const int left = (area.width() - size.width()) / 2;
+    const int middle = (area.height() - size.height()) / 2;
+    window->setGeometry(QRect(QPoint(left, qMax(0, middle - kAboveMiddle)), size));
     window->show();
 }
 

@@ -224,7 +224,14 @@ void FRM000::whenRunning(std::function<void()> call) {
     if (running_) {
         call();
     } else {
-        QTimer::singleShot(0, this, guarded(std::move(call)));
+        waiting_.push_back(std::move(call));
+    }
+}
+
+void FRM000::setRunning() {
+    running_ = true;
+    for (const auto &call : std::exchange(waiting_, {})) {
+        runGuarded(call);
     }
 }
 

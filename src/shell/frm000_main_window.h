@@ -65,9 +65,10 @@ public:
     Screen *childScreen() const;
     QAction *action(const QString &entry) const;
 
-    /// Runs a call at once, or at the first turn of the run loop while that hasn't begun.
+    /// Runs a call at once, or, while the run loop hasn't begun, at its first turn.
     void whenRunning(std::function<void()> call);
-    void setRunning() { running_ = true; }
+    /// The run loop has begun.
+    void setRunning();
 
     /// The picture of the splash that goes with the colour scheme; null where there is none.
     const QPixmap &splashPicture() const { return splashPicture_; }
@@ -134,6 +135,7 @@ private:
     QTimer clock_;
     QDateTime lastTick_;
     bool running_ = false;
+    std::vector<std::function<void()>> waiting_;
     bool sessionStarted_ = false;
     bool closeAsked_ = false;
     bool sideBarWanted_ = false;

@@ -139,8 +139,8 @@ bool Program::start() {
     registerScreens();
     FRM000 *window = parts_->window.get();
     QTimer::singleShot(0, window, [this, window] {
-        window->setRunning();
         QTimer::singleShot(parts_->splashTime, window, guarded([this] { Timer2(); }));
+        window->setRunning();
     });
     return true;
 }

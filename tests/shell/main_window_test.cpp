@@ -53,6 +53,12 @@ void setPlain(ShellStation &station, const QString &entry, const QString &name,
     });
 }
 
+/// Closed windows go when the event loop turns.
+void letGo() {
+    settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 PlainScreen *plain(ShellStation &station) {
     return dynamic_cast<PlainScreen *>(station.window().childScreen());
 }
@@ -99,7 +105,7 @@ TEST(MainWindow, OneChildAtATimeAndAFreshOneEachTime) {
     EXPECT_EQ(frame.left(), (area.width() - frame.width()) / 2);
     EXPECT_EQ(frame.top(), qMax(0, (area.height() - frame.height()) / 2 - 80));
     station.window().openEntry("E1");
-    settle();
+    letGo();
     EXPECT_FALSE(first) << "the same entry closes the screen and creates it afresh";
     EXPECT_EQ(plain(station)->log.join(' '), "created activated");
     station.window().openEntry("E6");
@@ -107,7 +113,7 @@ TEST(MainWindow, OneChildAtATimeAndAFreshOneEachTime) {
     EXPECT_EQ(station.window().childScreen()->objectName(), "FRM997");
     emit plain(station)->closeRequested();
     EXPECT_EQ(station.window().childScreen(), nullptr);
-    settle();
+    letGo();
     EXPECT_EQ(station.window().findChildren<QMdiSubWindow *>().size(), 0);
 }
 
@@ -245,6 +251,7 @@ TEST(MainWindow, ProgressHoldsMenuAndClosing) {
 
 TEST(MainWindow, ClosingHourIsToldOnce) {
     ShellStation station;
+    station.splash = std::chrono::milliseconds(3600000);
     station.tick = std::chrono::milliseconds(5);
     station.installation.setIni("Equipo", "apagar", "S");
     station.installation.setIni("Equipo", "hora", "20:00:00");

@@ -37,7 +37,7 @@ public:
         settings.clock = &clock;
         settings.messages = &messages;
         settings.printing = &printing;
-        settings.splash = std::chrono::milliseconds(0);
+        settings.splash = splash;
         settings.tick = tick;
         program = std::make_unique<Program>(settings);
         return *program;
@@ -109,6 +109,7 @@ public:
 
     TestInstallation installation;
     TestClock clock;
+    std::chrono::milliseconds splash{0};
     std::chrono::milliseconds tick{3600000};
     ScriptedMessages messages;
     RecordingPrinting printing;
