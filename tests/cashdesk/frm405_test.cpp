@@ -8,6 +8,7 @@
 
 #include "data/database_error.h"
 #include "tests/cashdesk/registered_notes.h"
+#include "tests/support/accessibility.h"
 #include "tests/support/keys.h"
 #include "tests/support/test_station.h"
 #include "toolkit/forms/button.h"
@@ -267,9 +268,21 @@ TEST_F(FRM405Test, TheFirstEmptyAnswerIsSilentEveryLaterOneIsTold) {
     station.messages.verify();
 
     press(Qt::Key_A, Qt::ControlModifier);
-    typeText("181124");
+    typeText("31/02/2024");
     press(Qt::Key_Return);
+    auto *fecha = child<DateField>(screen.get(), "FechaCorte");
+    EXPECT_EQ(fecha->text(), "31/02/2024") << "no date: nothing is asked, nothing lost";
+    EXPECT_EQ(keyTarget(), fecha);
+
+    fecha->setDate(QDate(2024, 11, 19));
+    press(Qt::Key_F4);
+    press(Qt::Key_Left);
+    press(Qt::Key_Return);
+    EXPECT_EQ(fecha->text(), "18/11/2024");
+    EXPECT_TRUE(generar()->isEnabled()) << "closing the calendar asks as well";
+    hold(Qt::Key_Return, 20);
     EXPECT_EQ(keyTarget(), generar());
+    EXPECT_EQ(rows("totales", "1=1"), 0) << "a held Enter cuts nothing";
     press(Qt::Key_Return);
     EXPECT_EQ(labels(), "5 EFECTIVO");
 }
@@ -319,6 +332,7 @@ TEST_F(FRM405Test, AnAdministratorCutsTheCashierOfADeskAndShift) {
     press(Qt::Key_Return);
     EXPECT_EQ(keyTarget(), generar());
     picture(screen.get(), "frm405-administrator");
+    checkAccessibility(*screen);
     press(Qt::Key_Return);
 
     EXPECT_EQ(labels(12),

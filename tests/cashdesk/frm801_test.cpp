@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "data/database_error.h"
+#include "tests/support/accessibility.h"
 #include "tests/support/keys.h"
 #include "tests/support/test_station.h"
 
@@ -139,6 +140,7 @@ TEST_F(FRM801Test, ASoundDeskIsLeftAlone) {
     open();
     EXPECT_EQ(shownFolio(), "0");
     picture(&dialog, "frm801");
+    checkAccessibility(dialog);
     station.messages.expectInformation(kSound);
     process();
     EXPECT_EQ(counter(), 1);
