@@ -49,7 +49,7 @@ public:
     PositionalText text;
     FirebirdParameters parameters;
     FirebirdRow row;
-    std::vector<Column> columns;
+    std::shared_ptr<const std::vector<Column>> columns;
 };
 
 /// What lives from an attach to its detach. Result sets share it, so that one that outlives the
@@ -130,7 +130,7 @@ public:
           columns_(statement_->columns) {}
     ~FirebirdResultSet() override { end(); }
 
-    const std::vector<Column> &columns() const override { return columns_; }
+    const std::vector<Column> &columns() const override { return *columns_; }
 
     bool fetch(Row &row) override {
         if (!statement_) {
@@ -174,7 +174,7 @@ private:
     std::shared_ptr<FirebirdAttachment> attachment_;
     std::unique_ptr<FirebirdStatement> statement_;
     Statement source_;
-    std::vector<Column> columns_;
+    std::shared_ptr<const std::vector<Column>> columns_;  // they outlive the last row
 };
 
 /// A write transaction that is rolled back unless it was committed.
@@ -228,7 +228,7 @@ FirebirdStatement::FirebirdStatement(FirebirdAttachment &attachment, const State
             status.check();
         }
         row.allocate();
-        columns = row.columns();
+        columns = std::make_shared<const std::vector<Column>>(row.columns());
         FirebirdRow &binding = parameters.row();
         isc_dsql_describe_bind(status.vector(), &handle, SQLDA_VERSION1, binding.sqlda());
         status.check();
@@ -260,8 +260,15 @@ void FirebirdStatement::bind(const Parameters &values, const Statement &statemen
                              const QString &connection) {
     std::vector<const QVariant *> ordered;
     ordered.reserve(static_cast<std::size_t>(text.names.size()));
+    // Routines give their values in the order of the text: a hundred of them are looked up at once.
+    qsizetype expected = 0;
     for (const QString &name : std::as_const(text.names)) {
-        ordered.push_back(&parameterValue(values, name, statement, connection));
+        if (expected < values.size() && values.at(expected).first == name) {
+            ordered.push_back(&values.at(expected).second);
+        } else {
+            ordered.push_back(&parameterValue(values, name, statement, connection));
+        }
+        ++expected;
     }
     parameters.bind(ordered, text.names, statement, connection);
 }
@@ -416,7 +423,7 @@ qint64 FirebirdConnection::changedRows(FirebirdStatement &prepared, const QStrin
 std::vector<Column> FirebirdConnection::describe(const Statement &statement) {
     open();
     auto prepared = attachment_->take(statement);
-    std::vector<Column> columns = prepared->columns;
+    std::vector<Column> columns = *prepared->columns;
     attachment_->giveBack(std::move(prepared), statement.text);
     return columns;
 }
