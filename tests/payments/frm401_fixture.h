@@ -61,15 +61,35 @@ protected:
         EXPECT_EQ(focused(), "Paterno");
     }
 
-    QString focused() const {
+    /// A button by its letter; it shows the press for a moment before it acts.
+    void pressLetter(Qt::Key letter) {
+        press(letter, Qt::AltModifier);
+        QTest::qWait(150);
+        settle();
+    }
+
+    std::string focused() const {
         const QWidget *target = keyTarget();
         while (target->objectName().isEmpty() || target->objectName().startsWith("qt_")) {
             target = target->parentWidget();
         }
-        return target->objectName();
+        return target->objectName().toStdString();
     }
-    QString text(const char *name) const { return child<QLineEdit>(screen.get(), name)->text(); }
-    QString labelText(const char *name) const { return child<QLabel>(screen.get(), name)->text(); }
+    /// Walks backwards or forwards to a field by Tab.
+    void tabTo(const std::string &name, bool forward = true) {
+        for (int step = 0; step < 60 && focused() != name; ++step) {
+            press(forward ? Qt::Key_Tab : Qt::Key_Backtab,
+                  forward ? Qt::NoModifier : Qt::ShiftModifier);
+        }
+        EXPECT_EQ(focused(), name);
+    }
+
+    std::string text(const char *name) const {
+        return child<QLineEdit>(screen.get(), name)->text().toStdString();
+    }
+    std::string labelText(const char *name) const {
+        return child<QLabel>(screen.get(), name)->text().toStdString();
+    }
     bool enabled(const char *name) const { return child<QWidget>(screen.get(), name)->isEnabled(); }
     bool shown(const char *name) const { return child<QWidget>(screen.get(), name)->isVisible(); }
     NamedQuery &lines() { return station.local.FBDetalleVtas; }
