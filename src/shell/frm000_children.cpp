@@ -46,10 +46,18 @@ void FRM000::CerrarVentana() {
     for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
         (*window)->close();
     }
+    childGone();
 }
 
-void FRM000::dropChild() {
-    delete child_.data();
+void FRM000::childGone() {
+    if (childScreen() == nullptr) {
+        sideBar_->setVisible(sideBarWanted_);
+        shareMnemonics(nullptr);
+    }
+}
+
+void FRM000::dropChildren() {
+    qDeleteAll(backdrop_->subWindowList());
 }
 
 void FRM000::openScreen(const ScreenMaker &maker) {
@@ -64,12 +72,7 @@ void FRM000::openScreen(const ScreenMaker &maker) {
     child_ = window;
     connectGuarded(screen, &Screen::closeRequested, window, [window] { window->close(); });
     connect(screen, &QObject::destroyed, window, &QObject::deleteLater);
-    connect(window, &QObject::destroyed, sideBar_, [this] {
-        if (childScreen() == nullptr) {
-            sideBar_->setVisible(sideBarWanted_);
-            shareMnemonics(nullptr);
-        }
-    });
+    connect(window, &QObject::destroyed, sideBar_, [this] { childGone(); });
     place(window);
     shareMnemonics(screen);
     screen->open();

@@ -59,8 +59,8 @@ public:
     void runEntry(const QString &entry);
     /// Closes the child screen.
     void CerrarVentana();
-    /// Destroys the child screen without asking it: the end of the program.
-    void dropChild();
+    /// Destroys the child screens, also those that are closing, without asking: the end of the run.
+    void dropChildren();
     /// The open child screen; null where there is none.
     Screen *childScreen() const;
     QAction *action(const QString &entry) const;
@@ -106,6 +106,8 @@ private:
 
     void openScreen(const ScreenMaker &maker);
     void place(QMdiSubWindow *window);
+    /// What gave way to a child screen comes back once there is none.
+    void childGone();
     /// Alt and a letter belong to the open screen first; a heading whose letter it uses is reached
     /// by Alt alone and the arrows while the screen stands.
     void shareMnemonics(const QWidget *screen);

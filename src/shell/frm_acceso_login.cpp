@@ -36,8 +36,10 @@ void FRMAcceso::build() {
             row({form::label(&Image1_, QStringLiteral("Image1")),
                  panel(nullptr, QStringLiteral("Panel1"),
                        column({
+                           stretch(),
                            form::label(&Label1_, QStringLiteral("Label1")).heading().wrap(),
                            form::label(&Label2_, QStringLiteral("Label2")).wrap(),
+                           stretch(),
                        }))
                      .grow()}),
             form::line(),

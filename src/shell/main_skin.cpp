@@ -169,16 +169,21 @@ void applyBaseLook() {
 }
 
 void applyScheme(const ColourScheme *scheme) {
-    QPalette palette = basePalette();
-    if (scheme != nullptr) {
-        palette.setColor(QPalette::Highlight, scheme->kaldoSelect);
-        palette.setColor(QPalette::HighlightedText, kInk);
-        palette.setColor(QPalette::Link, scheme->kaldoColor);
-    }
     if (auto *style = dynamic_cast<KaldoStyle *>(QApplication::style())) {
         style->setHeader(scheme != nullptr ? scheme->kaldoColor : QColor());
     }
+    QPalette palette = basePalette();
+    if (scheme != nullptr) {
+        palette.setColor(QPalette::Highlight, scheme->kaldoColor);
+        palette.setColor(QPalette::Link, scheme->kaldoColor);
+    }
     QApplication::setPalette(palette);
+    // Rows are selected in the pale colour; the focus keeps the strong one.
+    if (scheme != nullptr) {
+        palette.setColor(QPalette::Highlight, scheme->kaldoSelect);
+        palette.setColor(QPalette::HighlightedText, kInk);
+    }
+    QApplication::setPalette(palette, "QAbstractItemView");
 }
 
 }  // namespace kaldo

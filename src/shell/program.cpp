@@ -59,7 +59,7 @@ struct Program::Parts {
     }
     ~Parts() {
         // A screen refers to resident dialogs, which go before the window.
-        window->dropChild();
+        window->dropChildren();
     }
 
     Installation installation;

@@ -4,22 +4,12 @@
 #include "shell/frm_inicio_splash.h"
 #include "shell/main_skin.h"
 
-#include <QDirIterator>
+#include <QDir>
 #include <QPushButton>
 
 namespace kaldo::test {
 
 namespace {
-
-void installPictures(const TestInstallation &installation) {
-    const QString target = installation.root() + "/Images/KALDO";
-    QDir().mkpath(target);
-    QDirIterator files(QStringLiteral(KALDO_SOURCE_DIR "/assets/pictures"), {"*.png"});
-    while (files.hasNext()) {
-        files.next();
-        QFile::copy(files.filePath(), target + '/' + files.fileName());
-    }
-}
 
 /// The colour of the middle of a widget's left edge, as it is painted.
 QColor edgeColour(QWidget *widget) {
@@ -32,7 +22,6 @@ void checkLook(const QString &name, const QString &user, const QString &password
     SCOPED_TRACE(qPrintable(skin));
     ShellStation station;
     station.tick = std::chrono::milliseconds(20);
-    installPictures(station.installation);
     station.installation.setIni("Sistema", "skinname", skin);
     station.installation.setIni("Ambiente", "skin", "C:\\KALDO\\Ini\\" + library);
     ASSERT_TRUE(station.start());
@@ -76,6 +65,7 @@ TEST(Look, DefaultAndTheThreeSchemes) {
 TEST(Look, MissingPicturesLeaveAQuietGround) {
     ShellStation station;
     station.installation.setIni("Sistema", "skinname", "KaldoBlue");
+    QDir(station.installation.root() + "/Images").removeRecursively();
     ASSERT_TRUE(station.start());
     EXPECT_TRUE(station.window().splashPicture().isNull());
     picture(station.program->splash(), "bare_splash");
@@ -87,7 +77,6 @@ TEST(Look, MissingPicturesLeaveAQuietGround) {
 
 TEST(Look, NoticeOfTheStudentsDesk) {
     ShellStation station;
-    installPictures(station.installation);
     station.installation.setIni("Sistema", "skinname", "KaldoBlue");
     station.clock.set(QDateTime(QDate(2023, 8, 3), QTime(9, 0)));
     station.logIn("clinica", "cli");

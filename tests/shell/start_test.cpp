@@ -2,8 +2,10 @@
 
 #include "shell/frm_inicio_splash.h"
 #include "shell/main_skin.h"
+#include "shell/version.h"
 
 #include <QFile>
+#include <QTableView>
 
 namespace kaldo::test {
 
@@ -23,6 +25,12 @@ void overwrite(const QString &path, const QByteArray &bytes) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
     file.write(bytes);
+}
+
+QColor selectedRow() {
+    QTableView table;
+    table.ensurePolished();
+    return table.palette().color(QPalette::Highlight);
 }
 
 }  // namespace
@@ -74,6 +82,10 @@ TEST(Start, EndsSilentlyWhereNothingNamesTheClinic) {
         },
         [](const TestInstallation &at) { at.setIni("SQL", "cliente", ""); },
         [](const TestInstallation &at) { QFile::remove(at.iniPath()); },
+        [](const TestInstallation &at) {
+            QFile::remove(at.iniPath());
+            QDir().mkpath(at.iniPath());  // nothing that can be read
+        },
         [](const TestInstallation &at) { overwrite(at.iniPath(), QByteArray(3000, '\0')); },
     };
     for (const auto &spoil : cases) {
@@ -124,6 +136,13 @@ TEST(Start, SplashStandsUntilTheLoginComes) {
     EXPECT_EQ(IniFile(station.installation.iniPath()).value("Alert", "version"), "1.0.0.0");
     station.inDialog(
         station.login(), [] {}, [&] { EXPECT_EQ(station.program->splash(), nullptr); });
+}
+
+TEST(Start, VersionIsThatOfTheBuild) {
+    QFile file(QStringLiteral(KALDO_SOURCE_DIR "/CMakeLists.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString version = QString::fromLatin1(kVersion).section('.', 0, 2);
+    EXPECT_TRUE(file.readAll().contains(("project(kaldo VERSION " + version + ' ').toLatin1()));
 }
 
 TEST(Start, ConsultationStationOpensTheDossiersWithoutLogin) {
@@ -221,8 +240,11 @@ TEST(Skin, SchemeBeforeItsDatesWorks) {
     station.logIn("cajero1", "caja1");
     EXPECT_FALSE(station.stillOpen);
     EXPECT_EQ(station.session().AnioActual, 2024);
-    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight),
-              schemeNamed("KaldoGreen")->kaldoSelect);
+    EXPECT_EQ(selectedRow(), schemeNamed("KaldoGreen")->kaldoSelect);
+    station.program.reset();
+    station.installation.setIni("Sistema", "skinname", "Windows");
+    station.logIn("cajero1", "caja1");
+    EXPECT_EQ(selectedRow(), baseAccent());
 }
 
 }  // namespace kaldo::test
