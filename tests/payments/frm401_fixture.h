@@ -31,6 +31,10 @@ protected:
     /// Picks by typing the first letters, as a cashier does.
     void chooseService(const QString &letters) {
         EXPECT_EQ(focused(), "ComboBox1");
+        // Letters typed in quick succession belong to one search of the list.
+        if (std::exchange(serviceChosen, true)) {
+            QTest::qWait(QApplication::keyboardInputInterval() + 50);
+        }
         typeText(letters);
         press(Qt::Key_Return);
     }
@@ -94,9 +98,14 @@ protected:
     bool shown(const char *name) const { return child<QWidget>(screen.get(), name)->isVisible(); }
     NamedQuery &lines() { return station.local.FBDetalleVtas; }
 
-    /// Presses keys in the modal dialog that the next stroke opens.
+    /// Presses keys in the modal dialog that one of the next strokes opens.
     void inDialog(QDialog *dialog, std::function<void()> strokes) {
-        QTimer::singleShot(0, dialog, [this, dialog, strokes] {
+        auto *waiting = new QTimer(dialog);
+        connectGuarded(waiting, &QTimer::timeout, dialog, [dialog, strokes, waiting] {
+            if (!dialog->isVisible()) {
+                return;
+            }
+            waiting->stop();
             EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
             settle();
             strokes();
@@ -105,8 +114,10 @@ protected:
                 dialog->reject();
             }
         });
+        waiting->start(10);
     }
 
+    bool serviceChosen = false;
     TestStation station;
     FRM401_3 formaPago{station.context};
     FRMAlumnos alumnos{station.context};
