@@ -25,7 +25,8 @@ void FRM000::buildMenu() {
         for (const MenuEntry &entry : heading.entries) {
             buildEntry(menu, &submenus_, entry);
         }
-        menu->menuAction()->setEnabled(!heading.entries.empty());
+        // The menu itself: its action follows it each time the window is disabled and enabled.
+        menu->setEnabled(!heading.entries.empty());
     }
     auto *filters = new QActionGroup(this);
     for (const char *name : {"D1a", "D1b", "D1c"}) {

@@ -67,9 +67,10 @@ PlainScreen *plain(ShellStation &station) {
 
 TEST(MainWindow, MenuHasItsHeadingsAndEntries) {
     ShellStation station;
-    ASSERT_TRUE(station.start());
+    station.logIn("admin", "admin");
     QStringList headings;
     for (const QAction *heading : station.window().menuBar()->actions()) {
+        EXPECT_EQ(heading->isEnabled(), !heading->text().contains("macén"));
         headings += heading->text().remove(u'&');
     }
     EXPECT_EQ(headings.join(u'|'),
