@@ -92,9 +92,20 @@ void NamedQuery::start(const Parameters &values) {
             values_.append({name, value});
         }
     }
-    close();
-    auto result = connection_->select(statement(), values_);
+    result_.reset();
+    std::unique_ptr<ResultSet> result;
+    try {
+        result = connection_->select(statement(), values_);
+    } catch (...) {
+        close();
+        throw;
+    }
+    // One reset, from the old rows to the new ones: a grid whose columns go and come lays them out
+    // twice.
     beginResetModel();
+    if (isOpen()) {
+        forgetRows();
+    }
     result_ = std::move(result);
     takeColumns(result_->columns());
     state_ = State::Browsing;
@@ -136,15 +147,19 @@ void NamedQuery::close() {
         return;
     }
     beginResetModel();
+    forgetRows();
+    state_ = State::Closed;
+    endResetModel();
+    emit stateChanged();
+}
+
+void NamedQuery::forgetRows() {
     result_.reset();
     rows_.clear();
     lastColumns_ = std::exchange(columns_, {});
     lastColumnByName_ = std::exchange(columnByName_, {});
     pending_.reset();
     current_ = -1;
-    state_ = State::Closed;
-    endResetModel();
-    emit stateChanged();
 }
 
 int NamedQuery::count() {

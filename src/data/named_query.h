@@ -148,6 +148,7 @@ private:
     int columnOf(const QString &field) const;
     int requireColumn(const QString &field) const;
     void start(const Parameters &values);
+    void forgetRows();
     void takeColumns(const std::vector<Column> &stored);
     void announceOpening();
     QVariant lookUp(const Lookup &lookup, int row) const;

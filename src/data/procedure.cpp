@@ -9,9 +9,12 @@ Procedure::Procedure(const char *name, const char *routine, const char *paramete
                 QString::fromLatin1(parameters).remove(u' ').split(u',', Qt::SkipEmptyParts)) {}
 
 Procedure::Procedure(const char *name, const char *routine, const QStringList &parameters)
-    : name_(QString::fromLatin1(name)),
-      routine_(QString::fromLatin1(routine)),
-      parameters_(parameters) {
+    : parameters_(parameters) {
+    QString text = QLatin1String("execute procedure ") + QString::fromLatin1(routine);
+    if (!parameters_.isEmpty()) {
+        text += QLatin1String(" (:") + parameters_.join(QLatin1String(", :")) + u')';
+    }
+    statement_ = {QString::fromLatin1(name), text};
     for (const QString &parameter : std::as_const(parameters_)) {
         values_.append({parameter, QVariant()});
     }
@@ -24,26 +27,26 @@ Procedure &Procedure::set(const QString &parameter, const QVariant &value) {
             return *this;
         }
     }
-    throw std::logic_error((name_ + QLatin1String(" has no parameter ") + parameter).toStdString());
+    throw std::logic_error(
+        (name() + QLatin1String(" has no parameter ") + parameter).toStdString());
 }
 
 Procedure &Procedure::set(const Parameters &values) {
+    // Given in the routine's order, as they mostly are, a hundred values need no search.
+    qsizetype expected = 0;
     for (const auto &[name, value] : values) {
-        set(name, value);
+        if (expected < values_.size() && values_.at(expected).first == name) {
+            values_[expected].second = value;
+        } else {
+            set(name, value);
+        }
+        ++expected;
     }
     return *this;
 }
 
 void Procedure::execute() {
-    connection_->execute(statement(), values_);
-}
-
-Statement Procedure::statement() const {
-    QString text = QLatin1String("execute procedure ") + routine_;
-    if (!parameters_.isEmpty()) {
-        text += QLatin1String(" (:") + parameters_.join(QLatin1String(", :")) + u')';
-    }
-    return {name_, text};
+    connection_->execute(statement_, values_);
 }
 
 }  // namespace kaldo

@@ -14,7 +14,7 @@ public:
     Procedure(const char *name, const char *routine, const char *parameters);
     Procedure(const char *name, const char *routine, const QStringList &parameters);
 
-    const QString &name() const { return name_; }
+    const QString &name() const { return statement_.name; }
     const QStringList &parameters() const { return parameters_; }
     void bindTo(Connection &connection) { connection_ = &connection; }
     Connection &connection() const { return *connection_; }
@@ -28,11 +28,10 @@ public:
     /// Sets these and executes.
     void execute(const Parameters &values) { set(values).execute(); }
 
-    Statement statement() const;
+    const Statement &statement() const { return statement_; }
 
 private:
-    QString name_;
-    QString routine_;
+    Statement statement_;
     QStringList parameters_;
     Parameters values_;
     Connection *connection_ = nullptr;
