@@ -1,3 +1,4 @@
+#include <QGridLayout>
 #include <QShortcut>
 
 #include "app/binding.h"
@@ -8,6 +9,8 @@ namespace kaldo {
 namespace {
 
 constexpr int kAmountDigits = 14;
+/// Place of linesItems() in the form: it takes what height is left.
+constexpr int kLinesRow = 3;
 
 /// The columns of the working table that the cashier sees. Only what a person types is editable.
 QList<GridColumn> lineColumns() {
@@ -78,6 +81,7 @@ void FRM401::buildForm() {
     build(this,
           column({headingItems(), serviceItems(), patientItems(), linesItems(), totalsItems()}));
     keepRoomWhenHidden();
+    qobject_cast<QGridLayout *>(layout())->setRowStretch(kLinesRow, 1);
     bindGrid(grid_, &context().local.FBDetalleVtas);
     wireGrid();
     prestacionLabel_ = findChild<QLabel *>(QStringLiteral("CEdit1_label"));
@@ -99,24 +103,31 @@ form::Item FRM401::headingItems() {
     const auto value = [](QLabel **where, const char *name) {
         return label(where, QString::fromLatin1(name)).bold();
     };
-    return row({panel(nullptr, QStringLiteral("PanelEncabezado"),
-                      column({row({caption("Cajero:"), value(&cajero_, "Cajero").grow()}),
-                              row({caption("Centro:"), value(&centro_, "Centro").grow()})})),
-                panel(nullptr, QStringLiteral("PanelTurno"),
-                      column({row({caption("Turno:"), value(&turno_, "Turno"), stretch()}),
-                              row({caption("Caja:"), value(&caja_, "Caja"), stretch()})}))
-                    .with([](QWidget *panel) { panel->setContentsMargins(8, 0, 8, 0); }),
-                radio(&RadioGroup1_, QStringLiteral("RadioGroup1"), QStringLiteral("Selecciona"))
-                    .options({QStringLiteral("Registrar"), QStringLiteral("Consultar")})
-                    .clicked([this](int) { RadioGroup1Click(); }),
-                text(&Edit1_, QStringLiteral("Edit1"), QStringLiteral("Nota de Pago"))
-                    .digits()
-                    .width(10)
-                    .readOnly()
-                    .above(),
-                date(&DateEdit1_, QStringLiteral("DateEdit1"), QStringLiteral("Fecha"))
-                    .readOnly()
-                    .above()});
+    const Item who = column({row({caption("Cajero:"), value(&cajero_, "Cajero").grow()}),
+                             row({caption("Centro:"), value(&centro_, "Centro").grow()})});
+    const Item where = column({row({caption("Turno:"), value(&turno_, "Turno"), stretch()}),
+                               row({caption("Caja:"), value(&caja_, "Caja"), stretch()})});
+    return panel(
+        &panelEncabezado_, QStringLiteral("PanelEncabezado"),
+        row({panel(nullptr, QStringLiteral("PanelCajero"), who).grow(),
+             panel(nullptr, QStringLiteral("PanelTurno"), where).with([](QWidget *panel) {
+                 panel->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+                 panel->setContentsMargins(0, 0, 12, 0);
+             }),
+             radio(&RadioGroup1_, QStringLiteral("RadioGroup1"), QStringLiteral("Selecciona"))
+                 .options({QStringLiteral("Registrar"), QStringLiteral("Consultar")})
+                 .with([](RadioGroup *group) {
+                     group->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+                 })
+                 .clicked([this](int) { RadioGroup1Click(); }),
+             text(&Edit1_, QStringLiteral("Edit1"), QStringLiteral("Nota de Pago"))
+                 .digits()
+                 .width(10)
+                 .readOnly()
+                 .above(),
+             date(&DateEdit1_, QStringLiteral("DateEdit1"), QStringLiteral("Fecha"))
+                 .readOnly()
+                 .above()}));
 }
 
 form::Item FRM401::serviceItems() {
@@ -170,11 +181,7 @@ form::Item FRM401::patientItems() {
          text(&tipoPaciente_, QStringLiteral("TipoPaciente"), QStringLiteral("Tipo de Paciente"))
              .width(100)
              .shown(26)
-             .readOnly(),
-         strip(&panelOrigen_, QStringLiteral("PanelOrigen"),
-               {label(QStringLiteral("Origen del Expediente:")),
-                label(&origen_, QStringLiteral("Origen")).bold().grow()})
-             .grow()});
+             .readOnly()});
     const Item names =
         rowAbove({text(&paterno_, QStringLiteral("Paterno"), QStringLiteral("Paterno"))
                       .upper()
@@ -211,6 +218,9 @@ form::Item FRM401::patientItems() {
                    .width(100)
                    .readOnly()
                    .grow()});
+    auto origin = strip(&panelOrigen_, QStringLiteral("PanelOrigen"),
+                        {label(QStringLiteral("Origen del Expediente:")),
+                         label(&origen_, QStringLiteral("Origen")).bold().grow()});
     auto birth =
         strip(&panelNacimiento_, QStringLiteral("PanelNacimiento"),
               {date(&DateEdit2_, QStringLiteral("DateEdit2"), QStringLiteral("Fec. de Nacimiento"))
@@ -231,7 +241,10 @@ form::Item FRM401::patientItems() {
     // benefit never stand together and share their row.
     return column(
         {panel(&panelPaciente_, QStringLiteral("PanelPaciente"), column({dossier, names})).fill(),
-         panel(&panelOtros_, QStringLiteral("PanelOtros"), row({student.grow(), employee.grow()}))
+         panel(&panelOtros_, QStringLiteral("PanelOtros"),
+               row({student.grow(), panel(nullptr, QStringLiteral("PanelDerecho"),
+                                          row({employee.grow(), origin.grow()}))
+                                        .grow()}))
              .fill(),
          panel(&panelDatos_, QStringLiteral("PanelDatos"), row({birth.grow(), benefit.grow()}))
              .fill()});
@@ -262,7 +275,6 @@ form::Item FRM401::linesItems() {
                        .columns(lineColumns())
                        .enterColumn([this](const QString &field) { enterColumn(field); })
                        .key(Qt::Key_F6, [this] { descripcionAdicional(); })
-                       .fill()
                        .grow()});
 }
 
@@ -300,13 +312,14 @@ form::Item FRM401::totalsItems() {
 }
 
 void FRM401::keepRoomWhenHidden() {
-    for (QWidget *widget : {panelLugar_, panelOrigen_, panelNoEmpleado_, panelAnticipo_,
-                            static_cast<QWidget *>(listaExpedientes_)}) {
+    for (QWidget *widget :
+         {panelLugar_, panelAnticipo_, static_cast<QWidget *>(listaExpedientes_)}) {
         retainRoom(widget);
     }
+    panelOtros_->setMinimumHeight(panelOtros_->sizeHint().height());
     panelDatos_->setMinimumHeight(panelDatos_->sizeHint().height());
     // The lines take what height there is; long names are cut rather than widen the screen.
-    for (QWidget *panel : {panelPaciente_, panelOtros_, panelDatos_}) {
+    for (QWidget *panel : {panelEncabezado_, panelPaciente_, panelOtros_, panelDatos_}) {
         panel->setSizePolicy(panel->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
     }
     for (QLabel *name : {cajero_, centro_, origen_, dependencia_}) {

@@ -28,7 +28,6 @@ FRM401::~FRM401() {
 void FRM401::formCreate() {
     Combo();
     showStrip(panelAlumno_, educativo());
-    panelOtros_->setVisible(!empresarial());
     Expe_->close();
     fillHeading();
     RadioGroup1_->setIndex(int(NoteMode::Registrar));
@@ -51,6 +50,7 @@ void FRM401::fillHeading() {
     const QString centre = session().CentroDescr.text();
     cajero_->setText(session().NombreCorto.text());
     centro_->setText(centre.left(1) + centre.mid(1).toLower());
+    centro_->setToolTip(centro_->text());
     turno_->setText(session().TurnoDescr.text());
 }
 

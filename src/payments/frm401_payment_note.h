@@ -164,6 +164,7 @@ private:
         false;  ///< the key typed last was cleared: the same Enter goes no further
 
     // Heading
+    QWidget *panelEncabezado_ = nullptr;
     QLabel *cajero_ = nullptr;
     QLabel *centro_ = nullptr;
     QLabel *turno_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include "toolkit/forms/lookup_field.h"
 
+#include <QAbstractProxyModel>
 #include <QTableView>
 
 namespace kaldo {
@@ -248,7 +249,8 @@ TEST_F(PaymentNoteDossier, TheFaceAreaListsTheConceptsOfTheAge) {
         press(Qt::Key_Return);
         press(Qt::Key_F4);
         const auto *list = QApplication::activePopupWidget()->findChild<QTableView *>();
-        QAbstractItemModel *prices = list->model();
+        QAbstractItemModel *prices =
+            qobject_cast<QAbstractProxyModel *>(list->model())->sourceModel();
         while (prices->canFetchMore({})) {
             prices->fetchMore({});
         }
