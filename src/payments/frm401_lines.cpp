@@ -15,6 +15,8 @@ const QString &clave() {
 }
 
 constexpr int kHighestQuantity = std::numeric_limits<qint16>::max();
+/// What the payment dialog can take.
+constexpr double kHighestPrice = 999999999.99;
 
 }  // namespace
 
@@ -219,6 +221,10 @@ bool FRM401::cantidadCabe() {
 }
 
 void FRM401::enterPrecio() {
+    if (!precioCabe()) {
+        stayInColumn(QStringLiteral("PRECIO"));
+        return;
+    }
     if (context().local.FBDetalleVtas.number(QStringLiteral("PRECIO")) > 0) {
         grabarInformacion();
         return;
@@ -228,6 +234,15 @@ void FRM401::enterPrecio() {
     stayInColumn(QStringLiteral("CANT"));
 }
 
+bool FRM401::precioCabe() {
+    if (context().local.FBDetalleVtas.number(QStringLiteral("PRECIO")) <= kHighestPrice) {
+        return true;
+    }
+    messages().warning(QStringLiteral("El precio no puede ser mayor que %1, vuelva a intentar.")
+                           .arg(formatMoney(kHighestPrice)));
+    return false;
+}
+
 void FRM401::grabarInformacion() {
     NamedQuery &table = context().local.FBDetalleVtas;
     if (!grid_->commitEditor()) {
@@ -235,6 +250,11 @@ void FRM401::grabarInformacion() {
     }
     if (!cantidadCabe()) {
         grid_->setCurrentField(QStringLiteral("CANT"));
+        moveFocus(grid_);
+        return;
+    }
+    if (!precioCabe()) {
+        grid_->setCurrentField(QStringLiteral("PRECIO"));
         moveFocus(grid_);
         return;
     }

@@ -27,7 +27,7 @@ FRM401::~FRM401() {
 
 void FRM401::formCreate() {
     Combo();
-    showStrip(panelAlumno_, educativo());
+    panelAlumno_->setVisible(educativo());
     Expe_->close();
     fillHeading();
     RadioGroup1_->setIndex(int(NoteMode::Registrar));
@@ -113,7 +113,7 @@ void FRM401::clearPayer() {
     consultarExpedientes_->setEnabled(false);
     filtro_->setEnabled(false);
     panelAlumno_->setEnabled(false);
-    showStrip(panelAlumno_, educativo());
+    panelAlumno_->setVisible(educativo());
     panelOrigen_->setVisible(false);
     panelNacimiento_->setVisible(false);
     panelNoEmpleado_->setVisible(false);
@@ -167,10 +167,6 @@ void FRM401::setListsEnabled(bool enabled) {
     ComboBox1_->setEnabled(enabled);
     ComboBox2_->setEnabled(enabled);
     ComboBox3_->setEnabled(enabled);
-}
-
-void FRM401::showStrip(QWidget *strip, bool show) {
-    strip->setVisible(show);
 }
 
 void FRM401::LimpiarTabla() {

@@ -54,7 +54,6 @@ private:
     void clearPayer();
     void LimpiarTabla();
     void setListsEnabled(bool enabled);
-    void showStrip(QWidget *strip, bool show);
     bool empresarial() const;
     bool educativo() const;
 
@@ -124,6 +123,7 @@ private:
     void takeConcept();
     bool claveVacia() const;
     bool cantidadCabe();
+    bool precioCabe();
     void showTotals();
     void stayInColumn(const QString &field);
     void clearClave();

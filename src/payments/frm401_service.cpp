@@ -146,7 +146,7 @@ void FRM401::identifyByNames() {
 
 void FRM401::identifyByStudent() {
     panelPaciente_->setEnabled(false);
-    showStrip(panelAlumno_, true);
+    panelAlumno_->setVisible(true);
     panelAlumno_->setEnabled(true);
     moveFocus(matricula_);
 }
@@ -164,7 +164,7 @@ void FRM401::identifyEmployeeOrStudent() {
     NumEmpleado_ = 0;
     openPatientType(kPlainPatient);
     if (messages().confirm(QStringLiteral("Es alumno regular?")) == Answer::Yes) {
-        showStrip(panelAlumno_, true);
+        panelAlumno_->setVisible(true);
         panelAlumno_->setEnabled(true);
         moveFocus(matricula_);
     } else {

@@ -79,6 +79,41 @@ TEST_F(PaymentNoteDossier, WithoutStudentsTheLinesFollowAtOnce) {
     EXPECT_EQ(focused(), "AgregarRegistro");
 }
 
+TEST_F(PaymentNoteDossier, LaboratoriesTakeADossierAndDiplomasNoStudent) {
+    open();
+    chooseService("LE");
+    chooseArea("LAB");
+    EXPECT_EQ(focused(), "Edit2");
+    station.messages.expectConfirmation(kUseAna, Answer::Yes);
+    search("1/24");
+    EXPECT_EQ(focused(), "Matricula");
+    screen.reset();
+    open();
+    chooseService("AP");
+    chooseArea("SERV");
+    station.messages.expectConfirmation(kUseAna, Answer::Yes);
+    search("1/24");
+    EXPECT_EQ(focused(), "AgregarRegistro");
+}
+
+TEST_F(PaymentNoteDossier, AnotherDossierEmptiesTheLinesOfTheFirst) {
+    station.options.sector = Sector::Institucional;
+    startRadiology();
+    station.messages.expectConfirmation(kUseAna, Answer::Yes);
+    search("1/24");
+    addLine("1");
+    EXPECT_TRUE(enabled("Registrar"));
+    tabTo("Edit2", false);
+    station.messages.expectConfirmation(
+        "Desea usar la información seleccionada de RICARDO NUÑEZ ARAGON ?", Answer::Yes);
+    press(Qt::Key_A, Qt::ControlModifier);
+    search("2/24");
+    EXPECT_EQ(lines().count(), 0);
+    EXPECT_EQ(text("CEdit3"), "$0.00");
+    EXPECT_FALSE(enabled("Registrar"));
+    EXPECT_TRUE(enabled("ComboBox1"));
+}
+
 TEST_F(PaymentNoteDossier, OfADossierThatIsNotTakenNothingStays) {
     startAdults();
     station.messages.expectConfirmation(kUseAna, Answer::No);

@@ -176,6 +176,17 @@ TEST_F(PaymentNoteLines, AConceptWithoutAPriceAsksForOne) {
     EXPECT_EQ(column(), "CANT");
     press(Qt::Key_Return);
     EXPECT_EQ(column(), "PRECIO");
+    station.messages.expectWarning(
+        "El precio no puede ser mayor que $999,999,999.99, vuelva a intentar.");
+    typeText("-1000000000.00x");
+    press(Qt::Key_Return);
+    EXPECT_EQ(column(), "PRECIO");
+    // What is no amount stays in the cell.
+    typeText("1.2.3");
+    press(Qt::Key_Return);
+    EXPECT_EQ(column(), "PRECIO");
+    EXPECT_EQ(stored().size(), 0);
+    press(Qt::Key_A, Qt::ControlModifier);
     typeText("1,250.50");
     picture(screen.get(), "lines-price");
     press(Qt::Key_Return);
