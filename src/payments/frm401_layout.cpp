@@ -95,6 +95,9 @@ void FRM401::buildForm() {
     };
     shortcut(QKeySequence(Qt::Key_Insert), agregar_);
     shortcut(QKeySequence(Qt::CTRL | Qt::Key_Delete), borrar_);
+    // Its letter is a menu's too.
+    shortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), registrar_);
+    shortcut(QKeySequence(Qt::CTRL | Qt::Key_Enter), registrar_);
 }
 
 form::Item FRM401::headingItems() {
@@ -289,6 +292,7 @@ form::Item FRM401::totalsItems() {
     return row({panel(nullptr, QStringLiteral("PanelBotones"),
                       row({button(&registrar_, QStringLiteral("Registrar"),
                                   QStringLiteral("&Registrar Información"))
+                               .hint(QStringLiteral("Registrar Información (Ctrl+Entrar)"))
                                .icon(QStringLiteral("accept"))
                                .clicked([this] { registrarInformacion(); }),
                            button(&formaPagoButton_, QStringLiteral("FormaPago"),

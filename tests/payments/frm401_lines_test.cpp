@@ -208,7 +208,8 @@ TEST_F(PaymentNoteLines, CancellingAndDeletingGiveTheListsBack) {
 
     addLine("1");
     addLine("2");
-    press(Qt::Key_Return);
+    press(Qt::Key_Insert);
+    EXPECT_EQ(column(), "CVE_PROD");
     pressLetter(Qt::Key_N);
     EXPECT_EQ(stored().size(), 2);
     EXPECT_FALSE(enabled("ComboBox1"));

@@ -76,7 +76,7 @@ TEST_F(PaymentNoteRegistration, ADialogThatIsLeftKeepsTheNote) {
     open();
     writeAdmission();
     inDialog(&formaPago, [] { press(Qt::Key_Escape); });
-    pressLetter(Qt::Key_R);
+    press(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(lines().count(), 1);
     EXPECT_EQ(text("Paterno"), "PERALTA");
     EXPECT_EQ(text("Matricula"), "0");
@@ -175,7 +175,7 @@ TEST_F(PaymentNoteRegistration, PastedTextIsCutToItsColumnAndNothingBreaks) {
               80);
 }
 
-TEST_F(PaymentNoteRegistration, EverythingIsReachedAndFitsTheSmallestDesktop) {
+TEST_F(PaymentNoteRegistration, EveryFieldHasANameAndAllFitsTheSmallestDesktop) {
     for (const Sector sector : {Sector::Educativo, Sector::Institucional, Sector::Empresarial}) {
         station.options.sector = sector;
         open();
@@ -183,10 +183,6 @@ TEST_F(PaymentNoteRegistration, EverythingIsReachedAndFitsTheSmallestDesktop) {
         EXPECT_LE(screen->minimumSizeHint().height(), 620);
         const QList<QWidget *> all = screen->findChildren<QWidget *>();
         for (const QWidget *widget : all) {
-            const bool reachable = widget->focusPolicy() & Qt::TabFocus;
-            if (reachable && Field::of(const_cast<QWidget *>(widget)) == nullptr) {
-                continue;
-            }
             if (dynamic_cast<const Field *>(widget) != nullptr) {
                 EXPECT_FALSE(widget->accessibleName().isEmpty())
                     << widget->objectName().toStdString();
