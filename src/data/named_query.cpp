@@ -238,7 +238,15 @@ bool NamedQuery::locate(const Parameters &values) {
 }
 
 int NamedQuery::columnOf(const QString &field) const {
-    return columnByName_.value(field.toUpper(), -1);
+    const auto known = columnByName_.constFind(field);
+    if (known != columnByName_.cend()) {
+        return *known;
+    }
+    const int column = columnByName_.value(field.toUpper(), -1);
+    if (column >= 0) {
+        columnByName_.insert(field, column);
+    }
+    return column;
 }
 
 int NamedQuery::requireColumn(const QString &field) const {
@@ -258,14 +266,13 @@ QVariant NamedQuery::value(const QString &field) const {
 }
 
 QVariant NamedQuery::valueAt(int row, const QString &field) const {
-    const QString name = field.toUpper();
     for (const Lookup &lookup : lookups_) {
-        if (lookup.field == name) {
+        if (lookup.field.compare(field, Qt::CaseInsensitive) == 0) {
             return lookUp(lookup, row);
         }
     }
     return rows_.at(static_cast<std::size_t>(row))
-        .at(static_cast<std::size_t>(requireColumn(name)));
+        .at(static_cast<std::size_t>(requireColumn(field)));
 }
 
 QVariant NamedQuery::lookUp(const Lookup &lookup, int row) const {

@@ -170,7 +170,8 @@ private:
     Connection *connection_ = nullptr;
     Parameters values_;
     std::vector<Column> columns_;
-    QHash<QString, int> columnByName_;
+    /// By their names, and as the screens spell them once they did.
+    mutable QHash<QString, int> columnByName_;
     // Those of the last opening: a screen that reopens a query for each of thousands of notes
     // finds the same columns.
     std::vector<Column> lastColumns_;
