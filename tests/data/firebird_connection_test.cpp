@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -132,6 +133,30 @@ TEST_F(FirebirdConnectionTest, AnAttachThatFailsTellsWhich) {
     timer.start();
     EXPECT_EQ(failureOfAttach("localhost/39999:/no/hay/nadie"), DatabaseFailure::CannotAttach);
     EXPECT_LT(timer.elapsed(), 2000) << "a server that isn't there is told at once";
+}
+
+TEST_F(FirebirdConnectionTest, AFileThatAnotherProcessHoldsIsToldAsInUse) {
+    const QString file = files.database("BD_FINANZAS.GDB");
+    QProcess other;
+    other.start("isql-fb", {"-q", "-user", "SYSDBA", file});
+    ASSERT_TRUE(other.waitForStarted());
+    other.write("select 'abierta' from rdb$database;\n");
+    ASSERT_TRUE(other.waitForReadyRead(10000));
+
+    FirebirdConnection finance("FBFinanzas", {});
+    finance.setDatabase(file);
+    try {
+        finance.open();
+        ADD_FAILURE() << "two processes hold one embedded file";
+    } catch (const DatabaseError &failure) {
+        EXPECT_EQ(failure.failure(), DatabaseFailure::FileInUse) << failure.what();
+        EXPECT_TRUE(failure.message().startsWith(
+            "La base de datos FBFinanzas está en uso por otro programa."));
+    }
+    other.write("quit;\n");
+    ASSERT_TRUE(other.waitForFinished(10000));
+    finance.open();
+    EXPECT_TRUE(finance.isOpen());
 }
 
 TEST_F(FirebirdConnectionTest, ARowHeldByAnotherStationFailsAfterSeconds) {

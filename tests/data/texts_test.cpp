@@ -71,7 +71,38 @@ TEST(OptionsTest, ReadsEveryKeyAndStopsAtTheFirstThatIsNoNumber) {
     Options stopped;
     EXPECT_THROW(stopped.load(IniFile(files.iniPath())), std::invalid_argument);
     EXPECT_EQ(stopped.NombreInstitucion, other.NombreInstitucion) << "what stands before is read";
+    EXPECT_TRUE(stopped.CortesBancarios) << "a page before";
     EXPECT_FALSE(stopped.ActivarPrestamo) << "what stands behind is not";
+}
+
+TEST(OptionsTest, BadNumbersAndDatesAreRefusedAndEmptyOnesAreNone) {
+    const auto load = [](const char *section, const char *key, const char *value) {
+        TestInstallation files;
+        files.setIni(section, key, value);
+        Options options;
+        options.load(IniFile(files.iniPath()));
+        return options;
+    };
+    const QList<std::array<const char *, 3>> bad = {
+        {"Usuario", "estado", "x"},
+        {"Cliente", "sector", "dos"},
+        {"Cliente", "estado", "BC"},
+        {"Equipo", "hora", "25:00:00"},
+        {"Admisiones", "fbusqueda", "31/02"},
+        {"Admisiones", "dias", ""},
+        {"Admisiones", "consentimiento", "A"},
+        {"Expedientes", "fbusqueda", "31/09/2024"},
+        {"Expedientes", "expedientes", ""},
+        {"Expedientes", "h", "un"},
+        {"Impresiones", "duplicado", ""},
+    };
+    for (const auto &[section, key, value] : bad) {
+        EXPECT_THROW(load(section, key, value), std::invalid_argument) << section << ' ' << key;
+    }
+    EXPECT_EQ(load("Cliente", "estado", "").EstadoFiscal, -1);
+    EXPECT_EQ(load("Usuario", "estado", "").Estado, -1);
+    EXPECT_FALSE(load("Expedientes", "fbusqueda", "").fechaExpedientes().isValid());
+    EXPECT_FALSE(load("Equipo", "hora", "").HoraApagar.isValid());
 }
 
 }  // namespace
