@@ -1,119 +1,155 @@
 #include "data/options.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace kaldo {
 
 namespace {
 
-/// A list index kept as text; empty is no selection.
-int listIndex(const IniFile &ini, const QString &section, const QString &key, int shift) {
-    return ini.value(section, key).isEmpty() ? -1 : ini.integer(section, key) - shift;
+const QString kClient = QStringLiteral("Cliente");
+const QString kUser = QStringLiteral("Usuario");
+const QString kMachine = QStringLiteral("Equipo");
+const QString kAdmissions = QStringLiteral("Admisiones");
+const QString kDossiers = QStringLiteral("Expedientes");
+const QString kPrints = QStringLiteral("Impresiones");
+const QString kAccounting = QStringLiteral("Contabilidad");
+
+[[noreturn]] void refuse(const QString &text, const QString &what, const QString &section,
+                         const QString &key) {
+    throw std::invalid_argument(
+        QStringLiteral("'%1' no es una %2 válida para la clave %3 de la sección [%4] del archivo "
+                       "de configuración.")
+            .arg(text, what, key, section)
+            .toStdString());
 }
 
-QTime timeOf(const IniFile &ini, const QString &section) {
-    return QTime(ini.value(section, QStringLiteral("h")).toInt(),
-                 ini.value(section, QStringLiteral("m")).toInt(),
-                 ini.value(section, QStringLiteral("s")).toInt());
+/// A whole number that may be absent or empty.
+int numberOr(int missing, const IniFile &ini, const QString &section, const QString &key) {
+    return ini.value(section, key).isEmpty() ? missing : ini.integer(section, key);
+}
+
+/// A date that is kept as a text; empty is none.
+QString dateText(const IniFile &ini, const QString &section, const QString &key) {
+    const QString text = ini.value(section, key);
+    if (!text.isEmpty() && !parseShortDate(text).isValid()) {
+        refuse(text, QStringLiteral("fecha"), section, key);
+    }
+    return text;
+}
+
+QTime hour(const IniFile &ini, const QString &section, const QString &key) {
+    const QString text = ini.value(section, key);
+    const QTime time = QTime::fromString(text, QStringLiteral("HH:mm:ss"));
+    if (!text.isEmpty() && !time.isValid()) {
+        refuse(text, QStringLiteral("hora"), section, key);
+    }
+    return time;
+}
+
+QTime hourInParts(const IniFile &ini, const QString &section) {
+    return QTime(numberOr(0, ini, section, QStringLiteral("h")),
+                 numberOr(0, ini, section, QStringLiteral("m")),
+                 numberOr(0, ini, section, QStringLiteral("s")));
 }
 
 }  // namespace
 
 void Options::load(const IniFile &ini) {
-    const QString client = QStringLiteral("Cliente");
-    NombreCliente = ini.value(client, QStringLiteral("cliente"));
-    NombreInstitucion = ini.value(client, QStringLiteral("nombre"));
-    Iniciales = ini.value(client, QStringLiteral("iniciales"));
+    loadGeneral(ini);
+    loadSystem(ini);
+    loadAdmissions(ini);
+    loadDossiers(ini);
+    loadPrints(ini);
+}
+
+void Options::loadGeneral(const IniFile &ini) {
+    NombreCliente = ini.value(kClient, QStringLiteral("cliente"));
+    NombreInstitucion = ini.value(kClient, QStringLiteral("nombre"));
+    Iniciales = ini.value(kClient, QStringLiteral("iniciales"));
     if (Iniciales.isEmpty()) {
         Iniciales = NombreInstitucion;
     }
-    Facultad = ini.value(client, QStringLiteral("facultad"));
-    Clinica = ini.value(client, QStringLiteral("clinica"));
-    ImgEmpresa = ini.value(client, QStringLiteral("img_empresa"));
-    ImgEmpresa1 = ini.value(client, QStringLiteral("img_empresa1"));
-    sector =
-        static_cast<Sector>(std::clamp(listIndex(ini, client, QStringLiteral("sector"), 1), -1, 2));
-    Rfc = ini.value(client, QStringLiteral("rfc"));
-    Direccion = ini.value(client, QStringLiteral("direccion"));
-    Colonia = ini.value(client, QStringLiteral("colonia"));
-    CiudadFiscal = ini.value(client, QStringLiteral("ciudad"));
-    EstadoFiscal = listIndex(ini, client, QStringLiteral("estado"), 0);
-    Pais = ini.value(client, QStringLiteral("pais"));
-    CodigoPostal = ini.value(client, QStringLiteral("cp"));
-    Telefono = ini.value(client, QStringLiteral("tel"));
-    Correo = ini.value(client, QStringLiteral("correoe"));
-    Fondo = ini.value(client, QStringLiteral("fondo"));
-    FuenteFinanciamiento = ini.value(client, QStringLiteral("ftefin"));
-    TitulosMayusculas = ini.isYes(client, QStringLiteral("maysucula"));
-
-    const QString user = QStringLiteral("Usuario");
-    Usuario = ini.value(user, QStringLiteral("user"));
-    Ciudad = ini.value(user, QStringLiteral("ciudad"));
-    Estado = ini.value(user, QStringLiteral("estado"), QStringLiteral("0")).toInt() - 1;
-    CambiarPass = ini.isYes(user, QStringLiteral("cambiar_pass"));
+    Facultad = ini.value(kClient, QStringLiteral("facultad"));
+    Clinica = ini.value(kClient, QStringLiteral("clinica"));
+    Usuario = ini.value(kUser, QStringLiteral("user"));
+    Ciudad = ini.value(kUser, QStringLiteral("ciudad"));
+    Estado = numberOr(0, ini, kUser, QStringLiteral("estado")) - 1;
+    CambiarPass = ini.isYes(kUser, QStringLiteral("cambiar_pass"));
+    ArchivoAyuda = ini.value(QStringLiteral("Ayuda"), QStringLiteral("chm"));
     SkinName =
         ini.value(QStringLiteral("Sistema"), QStringLiteral("skinname"), QStringLiteral("Windows"));
     Skin = ini.value(QStringLiteral("Ambiente"), QStringLiteral("skin"),
                      QStringLiteral("C:\\KALDO\\Ini\\skinblue.dll"));
-    ArchivoAyuda = ini.value(QStringLiteral("Ayuda"), QStringLiteral("chm"));
+    sector = static_cast<Sector>(
+        std::clamp(numberOr(0, ini, kClient, QStringLiteral("sector")) - 1, -1, 2));
+    Rfc = ini.value(kClient, QStringLiteral("rfc"));
+    Direccion = ini.value(kClient, QStringLiteral("direccion"));
+    Colonia = ini.value(kClient, QStringLiteral("colonia"));
+    CiudadFiscal = ini.value(kClient, QStringLiteral("ciudad"));
+    EstadoFiscal = numberOr(-1, ini, kClient, QStringLiteral("estado"));
+    Pais = ini.value(kClient, QStringLiteral("pais"));
+    CodigoPostal = ini.value(kClient, QStringLiteral("cp"));
+    Telefono = ini.value(kClient, QStringLiteral("tel"));
+    Correo = ini.value(kClient, QStringLiteral("correoe"));
+}
 
-    const QString machine = QStringLiteral("Equipo");
-    ApagarSistema = ini.isYes(machine, QStringLiteral("apagar"));
-    const QString hour = ini.value(machine, QStringLiteral("hora"));
-    HoraApagar = QTime::fromString(hour, QStringLiteral("HH:mm:ss"));
-    if (!hour.isEmpty() && !HoraApagar.isValid()) {
-        throw std::invalid_argument(
-            QStringLiteral("'%1' no es una hora válida para la clave hora de la sección [Equipo] "
-                           "del archivo de configuración.")
-                .arg(hour)
-                .toStdString());
-    }
-    BuscarActualizaciones = ini.isYes(machine, QStringLiteral("actualiza"));
-    GenerarEstadisticas = ini.isYes(machine, QStringLiteral("estadisticas"));
+void Options::loadSystem(const IniFile &ini) {
+    ApagarSistema = ini.isYes(kMachine, QStringLiteral("apagar"));
+    HoraApagar = hour(ini, kMachine, QStringLiteral("hora"));
+    BuscarActualizaciones = ini.isYes(kMachine, QStringLiteral("actualiza"));
+    GenerarEstadisticas = ini.isYes(kMachine, QStringLiteral("estadisticas"));
+    ContabilidadGubernamental = ini.isYes(kAccounting, QStringLiteral("gubernamental"));
+    GenerarPolizas = ini.isYes(kAccounting, QStringLiteral("prelimipolizasnar_hojas"));
+    CortesBancarios = ini.isYes(kAccounting, QStringLiteral("cortebanca"));
+    Fondo = ini.value(kClient, QStringLiteral("fondo"));
+    FuenteFinanciamiento = ini.value(kClient, QStringLiteral("ftefin"));
+    TitulosMayusculas = ini.isYes(kClient, QStringLiteral("maysucula"));
+}
 
-    const QString admissions = QStringLiteral("Admisiones");
-    FechaBusquedaAdmisiones = ini.value(admissions, QStringLiteral("fbusqueda"));
-    DiasBusqueda = ini.integer(admissions, QStringLiteral("dias"));
-    AlumnoCanalizado = ini.isYes(admissions, QStringLiteral("canalizado"));
-    AdmisionesOtrosCentros = ini.isYes(admissions, QStringLiteral("buscarxcd"));
-    SaltarAdmision = ini.isYes(admissions, QStringLiteral("saltar_adm"));
-    AdmisionesHoy = ini.isYes(admissions, QStringLiteral("hoy"));
-    AdmisionesConExpediente = ini.isYes(admissions, QStringLiteral("exp"));
-    AdmisionesAutorizadas = ini.isYes(admissions, QStringLiteral("aut"));
-    const QString consent =
-        ini.value(admissions, QStringLiteral("consentimiento"), QStringLiteral("0"));
-    Consentimiento = consent.isEmpty() ? -1 : consent.toInt();
+void Options::loadAdmissions(const IniFile &ini) {
+    FechaBusquedaAdmisiones = dateText(ini, kAdmissions, QStringLiteral("fbusqueda"));
+    DiasBusqueda = ini.integer(kAdmissions, QStringLiteral("dias"));
+    AlumnoCanalizado = ini.isYes(kAdmissions, QStringLiteral("canalizado"));
+    // Absent is the first model, empty is none.
+    const QString consent = QStringLiteral("consentimiento");
+    const bool first = ini.value(kAdmissions, consent, QStringLiteral("0")) == QLatin1String("0");
+    Consentimiento = first ? 0 : numberOr(-1, ini, kAdmissions, consent);
+    AdmisionesOtrosCentros = ini.isYes(kAdmissions, QStringLiteral("buscarxcd"));
+    SaltarAdmision = ini.isYes(kAdmissions, QStringLiteral("saltar_adm"));
+    AdmisionesHoy = ini.isYes(kAdmissions, QStringLiteral("hoy"));
+    AdmisionesConExpediente = ini.isYes(kAdmissions, QStringLiteral("exp"));
+    AdmisionesAutorizadas = ini.isYes(kAdmissions, QStringLiteral("aut"));
+}
 
-    const QString dossiers = QStringLiteral("Expedientes");
-    ExpedienteUniversal = ini.isYes(dossiers, QStringLiteral("controlexp"));
-    GenerarExpediente = ini.isYes(dossiers, QStringLiteral("guardar"));
-    CapturarSaldos = ini.isYes(dossiers, QStringLiteral("saldo"));
-    ExpedientesOtrosCentros = ini.isYes(dossiers, QStringLiteral("verexp"));
-    ValidarEdad = ini.isYes(dossiers, QStringLiteral("validaedad"));
-    ActivarPrestamo = ini.isYes(dossiers, QStringLiteral("prestamo"));
-    SistemaAnterior = ini.isYes(dossiers, QStringLiteral("sysanterior"));
+void Options::loadDossiers(const IniFile &ini) {
+    FechaBusquedaExpedientes = dateText(ini, kDossiers, QStringLiteral("fbusqueda"));
+    GenerarExpediente = ini.isYes(kDossiers, QStringLiteral("guardar"));
+    CapturarSaldos = ini.isYes(kDossiers, QStringLiteral("saldo"));
+    ExpedientesOtrosCentros = ini.isYes(kDossiers, QStringLiteral("verexp"));
+    ValidarEdad = ini.isYes(kDossiers, QStringLiteral("validaedad"));
+    ActivarPrestamo = ini.isYes(kDossiers, QStringLiteral("prestamo"));
+    ExpedientesPorAlumno = ini.integer(kDossiers, QStringLiteral("expedientes"));
+    SistemaAnterior = ini.isYes(kDossiers, QStringLiteral("sysanterior"));
     // The old system's switch governs the loans and not the search that bears its name.
     if (!SistemaAnterior) {
         ActivarPrestamo = false;
     }
-    ActualizarLista = ini.isYes(dossiers, QStringLiteral("actualizar"));
-    FechaBusquedaExpedientes = ini.value(dossiers, QStringLiteral("fbusqueda"));
-    ExpedientesPorAlumno = ini.integer(dossiers, QStringLiteral("expedientes"));
     if (!ActivarPrestamo) {
         ExpedientesPorAlumno = 0;
     }
-    IntervaloLista = timeOf(ini, dossiers);
+    ActualizarLista = ini.isYes(kDossiers, QStringLiteral("actualizar"));
+    IntervaloLista = hourInParts(ini, kDossiers);
+    ExpedienteUniversal = ini.isYes(kDossiers, QStringLiteral("controlexp"));
+}
 
-    const QString prints = QStringLiteral("Impresiones");
-    SegundosDuplicado = ini.integer(prints, QStringLiteral("duplicado"));
-    DesactivarDuplicados = ini.isYes(prints, QStringLiteral("des_duplicado"));
-    PreliminarNotas = ini.isYes(prints, QStringLiteral("preliminar"));
-    PreliminarHojas = ini.isYes(prints, QStringLiteral("preliminar_hojas"));
-
-    const QString accounting = QStringLiteral("Contabilidad");
-    ContabilidadGubernamental = ini.isYes(accounting, QStringLiteral("gubernamental"));
-    CortesBancarios = ini.isYes(accounting, QStringLiteral("cortebanca"));
-    GenerarPolizas = ini.isYes(accounting, QStringLiteral("prelimipolizasnar_hojas"));
+void Options::loadPrints(const IniFile &ini) {
+    SegundosDuplicado = ini.integer(kPrints, QStringLiteral("duplicado"));
+    DesactivarDuplicados = ini.isYes(kPrints, QStringLiteral("des_duplicado"));
+    PreliminarNotas = ini.isYes(kPrints, QStringLiteral("preliminar"));
+    PreliminarHojas = ini.isYes(kPrints, QStringLiteral("preliminar_hojas"));
+    ImgEmpresa = ini.value(kClient, QStringLiteral("img_empresa"));
+    ImgEmpresa1 = ini.value(kClient, QStringLiteral("img_empresa1"));
 }
 
 QDate Options::fechaExpedientes() const {

@@ -83,13 +83,21 @@ struct Options {
     bool CortesBancarios = false;
     bool GenerarPolizas = false;  ///< read from prelimipolizasnar_hojas
 
-    /// Reads every key in the order of the sections. A value that must be a whole number or an
-    /// hour and isn't throws (std::invalid_argument, Spanish text); what stands before it in the
-    /// order has been read, the rest keeps what it held.
+    /// Reads every key in the order of the panel's pages: General, Sistema, Opciones, Impresiones.
+    /// A value that must be a whole number, a date or an hour and isn't throws
+    /// (std::invalid_argument, Spanish text); what stands before it in the order has been read, the
+    /// rest keeps what it held.
     void load(const IniFile &ini);
 
     /// "Fecha Inicial de Busqueda." of the dossiers as a date; an invalid date where it is none.
     QDate fechaExpedientes() const;
+
+private:
+    void loadGeneral(const IniFile &ini);
+    void loadSystem(const IniFile &ini);
+    void loadAdmissions(const IniFile &ini);
+    void loadDossiers(const IniFile &ini);
+    void loadPrints(const IniFile &ini);
 };
 
 /// A date as the options keep it: dd/MM/yyyy.

@@ -1,4 +1,7 @@
 #include <QDate>
+#include <QScopeGuard>
+
+#include <array>
 
 #include <gtest/gtest.h>
 
@@ -76,11 +79,14 @@ TEST(OptionsTest, ReadsEveryKeyAndStopsAtTheFirstThatIsNoNumber) {
 }
 
 TEST(OptionsTest, BadNumbersAndDatesAreRefusedAndEmptyOnesAreNone) {
-    const auto load = [](const char *section, const char *key, const char *value) {
-        TestInstallation files;
-        files.setIni(section, key, value);
+    TestInstallation files;
+    IniFile ini(files.iniPath());
+    const auto load = [&ini](const char *section, const char *key, const char *value) {
+        const QString before = ini.value(section, key);
+        ini.setValue(section, key, value);
+        const auto restore = qScopeGuard([&] { ini.setValue(section, key, before); });
         Options options;
-        options.load(IniFile(files.iniPath()));
+        options.load(ini);
         return options;
     };
     const QList<std::array<const char *, 3>> bad = {
