@@ -67,7 +67,6 @@ int main(int argc, char **argv) {
     kaldo::Application application(argc, argv);
     Q_INIT_RESOURCE(icons);
     QCoreApplication::setApplicationName(QStringLiteral("kaldo"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("KALDO"));
     QGuiApplication::setDesktopFileName(QStringLiteral("kaldo"));
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Mexico));
     QTranslator toolkitTexts;

@@ -106,16 +106,16 @@ void FRM000::MainSkin() {
     context_.session.SkinName = context_.ini.value(
         QStringLiteral("Sistema"), QStringLiteral("skinname"), QStringLiteral("Windows"));
     const ColourScheme *scheme = schemeNamed(context_.session.SkinName);
-    applyScheme(scheme);
-    if (scheme != nullptr) {
-        backdrop_->setPicture(loadPicture(pictureOf(*scheme, context_.clock.today())));
-        if (!backdrop_->picture().isNull()) {
-            backdrop_->setCaptionColours(scheme->caption, scheme->link);
-        }
+    if (scheme == nullptr) {
+        return;  // any other name leaves the look as it is
     }
-    const QColor colour = scheme != nullptr ? scheme->kaldoColor : baseAccent();
-    sideBar_->setHeaderColour(colour);
-    panels_->setBarColour(colour);
+    applyScheme(*scheme);
+    backdrop_->setPicture(loadPicture(pictureOf(*scheme, context_.clock.today())));
+    if (!backdrop_->picture().isNull()) {
+        backdrop_->setCaptionColours(scheme->caption, scheme->link);
+    }
+    sideBar_->setHeaderColour(scheme->kaldoColor);
+    panels_->setBarColour(scheme->kaldoColor);
 }
 
 QPixmap FRM000::loadPicture(const QString &file) const {
@@ -149,7 +149,7 @@ void FRM000::refreshDeskFigures() {
 }
 
 void FRM000::showNotice(const QString &text) {
-    panels_->setPanel(2, QStringLiteral("   ") + text);
+    panels_->showNotice(text);
 }
 
 void FRM000::beginProgress(int total, double step) {
@@ -230,6 +230,9 @@ void FRM000::whenRunning(std::function<void()> call) {
 
 void FRM000::setRunning() {
     running_ = true;
+}
+
+void FRM000::tellWhatWaits() {
     for (const auto &call : std::exchange(waiting_, {})) {
         runGuarded(call);
     }

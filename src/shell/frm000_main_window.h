@@ -65,10 +65,12 @@ public:
     Screen *childScreen() const;
     QAction *action(const QString &entry) const;
 
-    /// Runs a call at once, or, while the run loop hasn't begun, at its first turn.
+    /// Runs a call at once, or, while the run loop hasn't begun, in tellWhatWaits().
     void whenRunning(std::function<void()> call);
     /// The run loop has begun.
     void setRunning();
+    /// Runs what has waited: once the splash no longer covers the boxes.
+    void tellWhatWaits();
 
     /// The picture of the splash that goes with the colour scheme; null where there is none.
     const QPixmap &splashPicture() const { return splashPicture_; }

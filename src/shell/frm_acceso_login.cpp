@@ -20,6 +20,7 @@ constexpr int kProgrammeWidth = 5;
 constexpr int kPicture = 72;
 
 const QString kUsuario = QStringLiteral("Usuario");
+const QString kLeaveProgram = QStringLiteral("&Salir de la Aplicación");
 
 }  // namespace
 
@@ -69,8 +70,7 @@ void FRMAcceso::build() {
                      .hidden()
                      .clicked([this] { BitBtn4Click(); }),
                  stretch(),
-                 button(&BitBtn3_, QStringLiteral("BitBtn3"),
-                        QStringLiteral("&Salir de la Aplicación"))
+                 button(&BitBtn3_, QStringLiteral("BitBtn3"), kLeaveProgram)
                      .icon(QStringLiteral("exit"))
                      .escape()
                      .clicked([this] { BitBtn3Click(); })}),
@@ -104,6 +104,12 @@ bool FRMAcceso::hasUnattendedUser() const {
 void FRMAcceso::openAtStart() {
     ensureBuilt();
     fromMenu_ = false;
+    if (isVisible()) {
+        // Opened from the menu while the splash stood: now it is the first screen.
+        CheckBox1_->show();
+        BitBtn3_->setText(kLeaveProgram);
+        return;
+    }
     showModal();
 }
 
@@ -320,8 +326,9 @@ void FRMAcceso::reject() {
 }
 
 void FRMAcceso::done(int result) {
-    // Without a login the window goes back to the session that stands.
-    main_.setEnabled(main_.sessionStarted());
+    // Without a login the window goes back to the session that stands; on a station for
+    // consultations there may be none.
+    main_.setEnabled(fromMenu_ || main_.sessionStarted());
     Dialog::done(result);
 }
 

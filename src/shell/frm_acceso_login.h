@@ -22,7 +22,7 @@ public:
     /// The work of its creation: on a consultation station with its own user the login is done
     /// without the screen, and what has to be told waits for the run loop.
     void formCreate();
-    /// The first screen of a run.
+    /// The first screen of a run, which can only be left by a login or with the application.
     void openAtStart();
     /// The menu entry: a new login replaces the session, a window closed without one leaves it.
     void openFromMenu();

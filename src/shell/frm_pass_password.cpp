@@ -64,8 +64,10 @@ void FRMPass::reset() {
 }
 
 bool FRMPass::checkCurrent() {
-    if (Edit1_->text().trimmed() ==
-        context().odonto.ControlUsuarios1.text(QStringLiteral("pass")).trimmed()) {
+    // A login that failed leaves no row behind, and no password is like none.
+    const NamedQuery &user = context().odonto.ControlUsuarios1;
+    if (!user.isEmpty() &&
+        Edit1_->text().trimmed() == user.text(QStringLiteral("pass")).trimmed()) {
         return true;
     }
     messages().warning(QStringLiteral(
@@ -82,6 +84,7 @@ bool FRMPass::checkRepeated() {
     }
     messages().warning(QStringLiteral(
         "La nueva contraseña no coincide, presione cualquier tecla para continuar."));
+    moveFocus(Edit3_);
     return false;
 }
 

@@ -166,23 +166,20 @@ QColor baseAccent() {
 void applyBaseLook() {
     QApplication::setStyle(new KaldoStyle);
     QApplication::setPalette(basePalette());
+    QApplication::setPalette(basePalette(), "QAbstractItemView");
 }
 
-void applyScheme(const ColourScheme *scheme) {
+void applyScheme(const ColourScheme &scheme) {
     if (auto *style = dynamic_cast<KaldoStyle *>(QApplication::style())) {
-        style->setHeader(scheme != nullptr ? scheme->kaldoColor : QColor());
+        style->setHeader(scheme.kaldoColor);
     }
     QPalette palette = basePalette();
-    if (scheme != nullptr) {
-        palette.setColor(QPalette::Highlight, scheme->kaldoColor);
-        palette.setColor(QPalette::Link, scheme->kaldoColor);
-    }
+    palette.setColor(QPalette::Highlight, scheme.kaldoColor);
+    palette.setColor(QPalette::Link, scheme.kaldoColor);
     QApplication::setPalette(palette);
     // Rows are selected in the pale colour; the focus keeps the strong one.
-    if (scheme != nullptr) {
-        palette.setColor(QPalette::Highlight, scheme->kaldoSelect);
-        palette.setColor(QPalette::HighlightedText, kInk);
-    }
+    palette.setColor(QPalette::Highlight, scheme.kaldoSelect);
+    palette.setColor(QPalette::HighlightedText, kInk);
     QApplication::setPalette(palette, "QAbstractItemView");
 }
 

@@ -37,8 +37,8 @@ const ColourScheme *schemeOfPicture(const QString &stem);
 
 /// The look of all windows, without a scheme. Once, before the first window.
 void applyBaseLook();
-/// What a scheme changes of it; null goes back to the base look.
-void applyScheme(const ColourScheme *scheme);
+/// What a scheme changes of it.
+void applyScheme(const ColourScheme &scheme);
 
 /// Header colour of groups where no scheme is in force.
 QColor baseAccent();

@@ -54,6 +54,7 @@ const std::vector<MenuHeading> &menuHeadings() {
           {"E5d", "Relación de Facturas"},
           {"", ""},
           {"E6", "Corte de Caja"},
+          {"AjustesCorte1", "Ajustes a Corte"},
           {"E7", "Registrar Abono a Cuenta", "Ctrl+J"},
           {"E8", "Generar Etiquetas"},
           {"E9", "Estado de Cuenta", "Ctrl+K"}}},
@@ -109,10 +110,11 @@ const std::vector<ToolEntry> &toolEntries() {
 
 EntryKind kindOf(const QString &entry) {
     static const QSet<QString> silent = {
-        QStringLiteral("C1"),  QStringLiteral("C2"),  QStringLiteral("C3"),  QStringLiteral("E5a"),
-        QStringLiteral("E5b"), QStringLiteral("E5c"), QStringLiteral("E5d"), QStringLiteral("H1b"),
-        QStringLiteral("H2a"), QStringLiteral("H2b"), QStringLiteral("H2c"), QStringLiteral("H2d"),
-        QStringLiteral("H2e"), QStringLiteral("J3"),
+        QStringLiteral("C1"),  QStringLiteral("C2"),  QStringLiteral("C3"),
+        QStringLiteral("E5a"), QStringLiteral("E5b"), QStringLiteral("E5c"),
+        QStringLiteral("E5d"), QStringLiteral("H1b"), QStringLiteral("H2a"),
+        QStringLiteral("H2b"), QStringLiteral("H2c"), QStringLiteral("H2d"),
+        QStringLiteral("H2e"), QStringLiteral("J3"),  QStringLiteral("AjustesCorte1"),
     };
     return silent.contains(entry) ? EntryKind::Silent : EntryKind::Screen;
 }

@@ -39,7 +39,7 @@ const std::vector<ToolEntry> &toolEntries();
 /// What an entry does that no code is registered for.
 enum class EntryKind {
     Screen,  ///< opens a screen
-    Silent,  ///< has a right but nothing to do
+    Silent,  ///< nothing to do, whether some have the right to it or nobody has
 };
 EntryKind kindOf(const QString &entry);
 

@@ -209,6 +209,7 @@ void Program::Timer2() {
     Parts &parts = *parts_;
     const QString machine = QStringLiteral("Equipo");
     parts.splash.reset();
+    parts.window->tellWhatWaits();
     const bool ordinary =
         parts.ini.value(machine, QStringLiteral("consulta")) == QLatin1String("N");
     const bool named = !parts.ini.value(machine, QStringLiteral("usuario")).isEmpty() &&

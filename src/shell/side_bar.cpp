@@ -122,6 +122,7 @@ QWidget *SideBar::makeSitesGroup() {
     auto *refresh = new Button(content);
     refresh->setObjectName(QStringLiteral("BitBtn1"));
     refresh->setText(QStringLiteral("&Actualizar"));
+    refresh->setShortcut({});  // the letter is that of the heading "Archivo"
     refresh->setIconName(QStringLiteral("refresh"));
     refresh->setFocusPolicy(Qt::NoFocus);
     rows->addWidget(refresh);

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QProgressBar>
+#include <QRegularExpression>
 
 namespace kaldo {
 
@@ -16,55 +17,86 @@ constexpr int kBarPanel = 4;
 /// A loop repaints the window this often, in milliseconds.
 constexpr qint64 kRepaint = 50;
 
+/// The path that a text ends in, behind a blank: 1 what stands before it, 2 the name of its file.
+const QRegularExpression kPath(QStringLiteral("^(.*?\\s)(?:[A-Za-z]:)?[\\\\/].*?([^\\\\/]+)$"));
+
 }  // namespace
+
+/// The line that tells what went where, in the longest of its forms that there is room for.
+class NoticeLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    void tell(const QString &text) {
+        setToolTip(text);
+        forms_ = {text};
+        if (const QRegularExpressionMatch path = kPath.match(text); path.hasMatch()) {
+            forms_ += path.captured(1) + path.captured(2);
+            forms_ += path.captured(2);
+        }
+        fit();
+    }
+
+    QSize minimumSizeHint() const override {
+        return {fontMetrics().averageCharWidth() * 12, QLabel::minimumSizeHint().height()};
+    }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override {
+        QLabel::resizeEvent(event);
+        fit();
+    }
+
+private:
+    void fit() {
+        if (forms_.isEmpty()) {
+            return;
+        }
+        const QString lead = QStringLiteral("   ");
+        const int room = contentsRect().width();
+        for (const QString &form : forms_) {
+            if (fontMetrics().horizontalAdvance(lead + form) <= room) {
+                setText(lead + form);
+                return;
+            }
+        }
+        setText(fontMetrics().elidedText(lead + forms_.last(), Qt::ElideMiddle, room));
+    }
+
+    QStringList forms_;
+};
 
 StatusPanels::StatusPanels(QWidget *parent) : QStatusBar(parent), barColour_(baseAccent()) {
     setSizeGripEnabled(false);
+    notice_ = new NoticeLabel(this);
     for (int number = 0; number < static_cast<int>(panels_.size()); ++number) {
-        auto *label = new QLabel(this);
+        QLabel *label = number == kNoticePanel ? notice_ : new QLabel(this);
         label->setObjectName(QStringLiteral("panel%1").arg(number));
         label->setTextFormat(Qt::PlainText);
         label->setContentsMargins(0, 3, 10, 3);
         panels_[number] = label;
         addPermanentWidget(label, number == kNoticePanel ? 1 : 0);
     }
-    panels_[kNoticePanel]->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
     QFont bold = font();
     bold.setBold(true);
     panels_[kRatePanel]->setFont(bold);
     QPalette red = panels_[kRatePanel]->palette();
     red.setColor(QPalette::WindowText, QColor(0xc0, 0x1c, 0x28));
     panels_[kRatePanel]->setPalette(red);
-    panels_[kBarPanel]->setFixedWidth(fontMetrics().averageCharWidth() * 22);
     bar_ = new QProgressBar(panels_[kBarPanel]);
     bar_->setObjectName(QStringLiteral("progressBar"));
     bar_->setAccessibleName(QStringLiteral("Avance"));
+    bar_->setFixedWidth(fontMetrics().averageCharWidth() * 22);
     bar_->hide();
+    panels_[kBarPanel]->setFixedWidth(0);
 }
 
 void StatusPanels::setPanel(int panel, const QString &text) {
-    texts_[panel] = text;
-    if (panel == kNoticePanel) {
-        panels_[panel]->setToolTip(text.trimmed());
-        elide(panel);
-    } else {
-        panels_[panel]->setText(text);
-    }
+    panels_[panel]->setText(text);
 }
 
-QString StatusPanels::panel(int number) const {
-    return texts_[number];
-}
-
-void StatusPanels::elide(int panel) {
-    QLabel *label = panels_[panel];
-    const int room = label->width() - 12;
-    label->setText(label->fontMetrics().elidedText(texts_[panel], Qt::ElideMiddle, room));
-}
-
-void StatusPanels::resizeEvent(QResizeEvent *event) {
-    QStatusBar::resizeEvent(event);
-    elide(kNoticePanel);
+void StatusPanels::showNotice(const QString &text) {
+    notice_->tell(text);
 }
 
 void StatusPanels::setBarColour(const QColor &colour) {
@@ -75,7 +107,9 @@ void StatusPanels::beginProgress(int total, double step) {
     total_ = total;
     step_ = step;
     position_ = 0;
-    bar_->setGeometry(panels_[kBarPanel]->rect().adjusted(2, 2, -2, -2));
+    panels_[kBarPanel]->setFixedWidth(bar_->width() + 4);
+    bar_->setFixedHeight(panels_[kBarPanel]->height() - 4);
+    bar_->move(2, 2);
     bar_->setRange(0, qMax(1, total));
     bar_->setValue(0);
     bar_->setTextVisible(false);
@@ -110,6 +144,7 @@ void StatusPanels::showTextColour(bool early) {
 
 void StatusPanels::endProgress() {
     bar_->hide();
+    panels_[kBarPanel]->setFixedWidth(0);
 }
 
 }  // namespace kaldo

@@ -11,8 +11,10 @@ class QProgressBar;
 
 namespace kaldo {
 
+class NoticeLabel;
+
 /// The status bar of the main window: seven panels, counted from 0, with the progress bar over
-/// panel 4.
+/// panel 4, which takes its room while the bar stands.
 class StatusPanels : public QStatusBar {
     Q_OBJECT
 
@@ -20,22 +22,20 @@ public:
     explicit StatusPanels(QWidget *parent = nullptr);
 
     void setPanel(int panel, const QString &text);
-    QString panel(int number) const;
+    /// A text for panel 2, cut down to what there is room for: a path that it ends in to the name
+    /// of its file, and then to that name alone. The whole text is the panel's tool tip.
+    void showNotice(const QString &text);
     void setBarColour(const QColor &colour);
 
     void beginProgress(int total, double step);
     void advanceProgress();
     void endProgress();
 
-protected:
-    void resizeEvent(QResizeEvent *event) override;
-
 private:
-    void elide(int panel);
     void showTextColour(bool early);
 
     std::array<QLabel *, 7> panels_{};
-    std::array<QString, 7> texts_;
+    NoticeLabel *notice_ = nullptr;
     QProgressBar *bar_ = nullptr;
     QColor barColour_;
     int total_ = 0;

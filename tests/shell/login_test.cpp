@@ -365,4 +365,44 @@ TEST(Password, IsChangedByItsOwner) {
         "nueva");
 }
 
+TEST(Password, FailedLoginLeavesNoPasswordToMatch) {
+    ShellStation station;
+    station.logIn("cajero1", "caja1");
+    station.messages.expectWarning(kWrong);
+    station.messages.expectWarning(QStringLiteral(
+        "La contraseña actual es incorrecta, presione cualquier tecla para continuar."));
+    station.inDialog(
+        station.login(), [&] { station.window().openEntry("J1"); },
+        [&] {
+            station.typeUser("cajero1", "adivino");
+            auto *dialog = child<QDialog>(&station.window(), "FRMPass");
+            auto *change = child<QPushButton>(&station.login(), "BitBtn4");
+            ASSERT_TRUE(change->isVisible());
+            station.inDialog(
+                *dialog,
+                [&] {
+                    change->setFocus();
+                    QTest::keyClick(change, Qt::Key_Space);
+                },
+                [&] {
+                    press(Qt::Key_Return);  // nothing typed, and no row to compare with
+                    EXPECT_TRUE(child<QLineEdit>(dialog, "Edit1")->hasFocus());
+                });
+        });
+}
+
+TEST(Login, KeyboardServesTheWindowAtOnce) {
+    ShellStation station;
+    station.logIn("cajero1", "caja1");
+    EXPECT_EQ(QApplication::activeWindow(), &station.window());
+    press(Qt::Key_G, Qt::ControlModifier);
+    ASSERT_NE(station.window().childScreen(), nullptr);
+    EXPECT_EQ(station.window().childScreen()->objectName(), "FRM401");
+    EXPECT_TRUE(station.window().childScreen()->isAncestorOf(QApplication::focusWidget()));
+    station.window().CerrarVentana();
+    settle();
+    press(Qt::Key_G, Qt::ControlModifier);
+    EXPECT_NE(station.window().childScreen(), nullptr) << "also after a screen has closed";
+}
+
 }  // namespace kaldo::test

@@ -3,9 +3,11 @@
 #include "shell/menu_entries.h"
 #include "tests/support/accessibility.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -78,6 +80,8 @@ TEST(MainWindow, MenuHasItsHeadingsAndEntries) {
               "Reportes|Administración|Funciones Especiales|Ayuda");
     EXPECT_EQ(station.window().action("H2a")->text(), "Igresos por Area de Servicio");
     EXPECT_EQ(station.window().action("K3")->text(), "Acerca de...");
+    EXPECT_EQ(station.window().action("AjustesCorte1")->text(), "Ajustes a Corte");
+    EXPECT_FALSE(station.window().action("AjustesCorte1")->isEnabled());
     QSet<QString> names;
     for (const MenuHeading &heading : menuHeadings()) {
         for (const MenuEntry &entry : heading.entries) {
@@ -180,6 +184,46 @@ TEST(MainWindow, EntriesSayWhatIsNotBuiltAndDoNothingWhereNothingIsTold) {
         QStringLiteral("El manual de ayuda no está instalado en esta estación."));
     station.window().openEntry("K1");
     settle();
+}
+
+TEST(MainWindow, HeadingsHaveTheirLettersForThemselves) {
+    ShellStation station;
+    station.logIn("admin", "admin");
+    auto *archive = child<QMenu>(&station.window(), "A0");
+    for (int round = 0; round < 2; ++round) {
+        press(Qt::Key_A, Qt::AltModifier);
+        EXPECT_TRUE(archive->isVisible()) << "a button of the side bar is called \"Actualizar\"";
+        archive->close();
+        settle();
+    }
+}
+
+TEST(MainWindow, NoticeTellsTheFileWhereThePathHasNoRoom) {
+    ShellStation station;
+    station.logIn("cajero1", "caja1");
+    const QString path =
+        QStringLiteral("/una/carpeta bastante larga/de la instalación/Recibos/Nota 1-2.pdf");
+    const QString notice = QStringLiteral("No hay impresora; el documento se guardó en ") + path;
+    station.window().resize(1024, 768);
+    settle();
+    station.window().showNotice(notice);
+    EXPECT_TRUE(station.panel(2).endsWith("Nota 1-2.pdf")) << qPrintable(station.panel(2));
+    EXPECT_FALSE(station.panel(2).contains(u'…'));
+    EXPECT_EQ(child<QLabel>(&station.window(), "panel2")->toolTip(), notice);
+    picture(&station.window(), "notice_1024");
+    station.window().resize(2600, 768);
+    settle();
+    EXPECT_EQ(station.panel(2), "   " + notice);
+    {
+        Progress progress(station.window(), 4);
+        station.window().resize(1024, 768);
+        settle();
+        progress.advance();
+        EXPECT_TRUE(station.panel(2).endsWith("Nota 1-2.pdf")) << qPrintable(station.panel(2));
+        const auto *bar = child<QProgressBar>(&station.window(), "progressBar");
+        EXPECT_GE(bar->parentWidget()->width(), bar->width()) << "the bar has its room";
+        picture(&station.window(), "progress_1024");
+    }
 }
 
 TEST(MainWindow, ControlPanelEntryIsMuteForTheDesks) {

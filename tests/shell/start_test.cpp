@@ -163,6 +163,32 @@ TEST(Start, ConsultationStationOpensTheDossiersWithoutLogin) {
     EXPECT_FALSE(station.enabled("E1"));
     EXPECT_TRUE(station.enabled("A4"));
     EXPECT_TRUE(station.enabled("J1"));
+    // A login that nobody completes leaves the station as it was.
+    station.inDialog(
+        station.login(), [&] { station.window().openEntry("J1"); }, [] { press(Qt::Key_Escape); });
+    EXPECT_FALSE(station.stillOpen);
+    EXPECT_TRUE(station.window().isEnabled());
+    EXPECT_FALSE(station.window().sessionStarted());
+}
+
+TEST(Start, LoginOpenedOverTheSplashBecomesTheFirstScreen) {
+    ShellStation station;
+    station.splash = std::chrono::milliseconds(150);
+    ASSERT_TRUE(station.start());
+    station.messages.expectConfirmation(QStringLiteral("Desea Salir del Sistema?"), Answer::No);
+    station.inDialog(
+        station.login(), [&] { station.window().openEntry("J1"); },
+        [&] {
+            EXPECT_NE(station.program->splash(), nullptr);
+            QTest::qWait(300);
+            EXPECT_EQ(station.program->splash(), nullptr);
+            press(Qt::Key_Escape);  // no longer a window that can be put away
+            EXPECT_TRUE(station.login().isVisible());
+            child<QWidget>(&station.login(), "Edit1")->setFocus();
+            station.typeUser("cajero1", "caja1");
+        });
+    EXPECT_FALSE(station.stillOpen);
+    EXPECT_TRUE(station.window().isEnabled());
 }
 
 TEST(Start, ConsultationStationWithoutItsUserAsksForTheLogin) {
@@ -195,12 +221,16 @@ TEST(Start, UnattendedLoginThatFailsTellsItInTheRunLoop) {
     station.installation.setIni("Equipo", "consulta", "S");
     station.installation.setIni("Usuario", "user1", "clinica");
     station.installation.setIni("Usuario", "pass", "otra");
+    station.splash = std::chrono::milliseconds(100);
     ASSERT_TRUE(station.start());
-    EXPECT_TRUE(station.messages.shown().isEmpty());
+    settle();
+    EXPECT_TRUE(station.messages.shown().isEmpty()) << "the splash would cover the box";
+    EXPECT_NE(station.program->splash(), nullptr);
     station.messages.expectWarning(
         QStringLiteral("La contraseña es incorrecta, vuelva a intentar."));
     station.inDialog(
-        station.login(), [] {}, [] {});
+        station.login(), [] {},
+        [&] { EXPECT_EQ(station.messages.shown().size(), 1) << "before the login comes"; });
     EXPECT_FALSE(station.window().sessionStarted());
 }
 
