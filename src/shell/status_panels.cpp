@@ -32,6 +32,7 @@ public:
         forms_ = {text};
         if (const QRegularExpressionMatch path = kPath.match(text); path.hasMatch()) {
             forms_ += path.captured(1) + path.captured(2);
+            forms_ += QStringLiteral("Archivo: ") + path.captured(2);
             forms_ += path.captured(2);
         }
         fit();
