@@ -8,7 +8,14 @@ int main(int argc, char **argv) {
     QApplication application(argc, argv);
     const kaldo::bench::PaintedReport report(QStringLiteral("empty"));
     QByteArray block(1, isc_dpb_version1);
-    block += QByteArray(1, isc_dpb_user_name) + QByteArray(1, 6) + "SYSDBA";
+    const auto add = [&block](char item, const char *text) {
+        block += item;
+        block += static_cast<char>(qstrlen(text));
+        block += text;
+    };
+    add(isc_dpb_user_name, "SYSDBA");
+    add(isc_dpb_password, "brickwall");
+    add(isc_dpb_lc_ctype, "UTF8");
     for (int at = 1; at < argc; ++at) {
         ISC_STATUS_ARRAY status;
         isc_db_handle database = 0;

@@ -1,10 +1,8 @@
-#include <QProcess>
-
-#include <stdexcept>
 #include <thread>
 
 #include "bench/measurements.h"
 #include "bench/note_typist.h"
+#include "bench/private_server.h"
 #include "bench/replay.h"
 
 namespace kaldo::bench {
@@ -73,36 +71,6 @@ Results measure(const Installations &installations, const QString &where, double
              .runs = kRuns}};
 }
 
-/// A private server over an installation, as scripts/server runs it, for the life of the object.
-class Server {
-public:
-    explicit Server(const QString &root) : root_(root) {
-        for (int port = 3071; port < 3091; ++port) {
-            if (command({"start", root_, "--port", QString::number(port)})) {
-                host = QStringLiteral("localhost/%1:").arg(port);
-                return;
-            }
-        }
-        throw std::runtime_error("no server could be started");
-    }
-    ~Server() { command({"stop", root_}); }
-    Server(const Server &) = delete;
-    Server &operator=(const Server &) = delete;
-
-    QString host;
-
-private:
-    static bool command(const QStringList &arguments) {
-        QProcess process;
-        process.setStandardOutputFile(QProcess::nullDevice());
-        process.setStandardErrorFile(QProcess::nullDevice());
-        process.start(QStringLiteral(KALDO_SOURCE_DIR "/scripts/server"), arguments);
-        return process.waitForFinished(60000) && process.exitCode() == 0;
-    }
-
-    QString root_;
-};
-
 }  // namespace
 
 Results registrationEmbedded() {
@@ -118,9 +86,9 @@ Results registrationWithoutForcedWrites() {
 
 Results registrationOnServer() {
     const Installations installations;
-    const Server server(installations.own->root());
-    reachThrough(*installations.own, server.host);
-    reachThrough(*installations.bare, server.host);
+    const PrivateServer server(installations.own->root());
+    reachThrough(*installations.own, server.host());
+    reachThrough(*installations.bare, server.host());
     return measure(installations, QStringLiteral("server"), 1.15);
 }
 
