@@ -1,5 +1,6 @@
 #include "shell/program.h"
 #include "toolkit/forms/application.h"
+#include "toolkit/forms/button.h"
 
 #include <QIcon>
 #include <QLibraryInfo>
@@ -68,6 +69,7 @@ int main(int argc, char **argv) {
     Q_INIT_RESOURCE(icons);
     QCoreApplication::setApplicationName(QStringLiteral("kaldo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("kaldo"));
+    QApplication::setWindowIcon(kaldo::iconNamed(QStringLiteral("logo")));
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Mexico));
     QTranslator toolkitTexts;
     if (toolkitTexts.load(QStringLiteral("qtbase_es"),

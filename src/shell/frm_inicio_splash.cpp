@@ -55,6 +55,8 @@ void FRMInicio::paintGround(QPainter &painter) const {
     ground.setColorAt(0, QColor(0xf8, 0xfa, 0xfb));
     ground.setColorAt(1, QColor(0xdd, 0xe8, 0xea));
     painter.fillRect(rect(), ground);
+    painter.setPen(QColor(0xb4, 0xc6, 0xcb));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
     const int mark = 84;
     painter.drawPixmap(QRect(width() / 2 - mark / 2, 44, mark, mark),
                        iconNamed(QStringLiteral("logo")).pixmap({mark, mark}, devicePixelRatioF()));
