@@ -185,7 +185,7 @@ create table cg_banco (
     cgrubroid smallint,
     cuentaid smallint,
     subctaid smallint,
-    subsubctaid smallint,
+    subsubctaid integer,
     nomenclatura varchar(25),
     descripcion varchar(250),
     posleftnumcheque integer,

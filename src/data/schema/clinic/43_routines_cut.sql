@@ -46,38 +46,40 @@ begin
         num_caja, fechacorte, usuario, bancoid, subsubctaid, nomenclatura, nom_banco, ftefto, fondo,
         concepto, importe, prog)
     with notas as (
-        select r.num_caja, r.nota_vta,
-               coalesce((select min(d.ftefinid)
-                           from detallevtas d
-                          where d.num_caja = r.num_caja and d.nota_vta = r.nota_vta), 0) as ftefto,
-               coalesce((select min(d.fondo)
-                           from detallevtas d
-                          where d.num_caja = r.num_caja and d.nota_vta = r.nota_vta), '') as fondo
+        select r.num_caja, r.nota_vta, coalesce(min(d.ftefinid), 0) as ftefto,
+               coalesce(min(d.fondo), '') as fondo
           from registrovtas r
+          left join detallevtas d on d.num_caja = r.num_caja and d.nota_vta = r.nota_vta
          where r.num_caja = :caja
            and r.fecha = :fecha
            and r.capto = :usr
-           and r.status <> 'CA'),
+           and r.status <> 'CA'
+         group by r.num_caja, r.nota_vta),
+    sumas as (
+        select f.bancomn, f.bancodll, n.ftefto, n.fondo, sum(maxvalue(f.pesos, 0)) as pesos,
+               sum(maxvalue(f.cheque, 0)) as cheque, sum(maxvalue(f.credito, 0)) as credito,
+               sum(maxvalue(f.dolares, 0)) as dolares
+          from notas n
+          join formapago f on f.num_caja = n.num_caja and f.nota_vta = n.nota_vta
+         group by f.bancomn, f.bancodll, n.ftefto, n.fondo),
+    formas as (
+        select 1 as orden, cast('EFECTIVO' as varchar(50)) as concepto from rdb$database
+        union all
+        select 2, 'CHEQUE' from rdb$database
+        union all
+        select 3, 'TARJETA' from rdb$database
+        union all
+        select 4, 'DOLARES' from rdb$database),
+    -- The outer join keeps the sums in front: every note is read once, not once for each way.
     pagos as (
-        select n.ftefto, n.fondo, f.bancomn as bancoid, 1 as orden, 'EFECTIVO' as concepto,
-               f.pesos as importe
-          from notas n
-          join formapago f on f.num_caja = n.num_caja and f.nota_vta = n.nota_vta
-        union all
-        select n.ftefto, n.fondo, f.bancomn, 2, 'CHEQUE', f.cheque
-          from notas n
-          join formapago f on f.num_caja = n.num_caja and f.nota_vta = n.nota_vta
-        union all
-        select n.ftefto, n.fondo, f.bancomn, 3, 'TARJETA', f.credito
-          from notas n
-          join formapago f on f.num_caja = n.num_caja and f.nota_vta = n.nota_vta
-        union all
-        select n.ftefto, n.fondo, f.bancodll, 4, 'DOLARES', f.dolares
-          from notas n
-          join formapago f on f.num_caja = n.num_caja and f.nota_vta = n.nota_vta)
+        select iif(w.orden = 4, s.bancodll, s.bancomn) as bancoid, s.ftefto, s.fondo, w.orden,
+               w.concepto,
+               decode(w.orden, 1, s.pesos, 2, s.cheque, 3, s.credito, s.dolares) as importe
+          from sumas s
+          left join formas w on w.orden > 0)
     select :caja, :fecha, :usr, coalesce(p.bancoid, 0), coalesce(b.subsubctaid, 0),
            b.nomenclatura, b.descripcion, p.ftefto,
-           iif(p.fondo similar to '[0-9]+', p.fondo, 0), trim(p.concepto), sum(p.importe), c.prog_pol
+           iif(p.fondo similar to '[0-9]+', p.fondo, 0), p.concepto, sum(p.importe), c.prog_pol
       from pagos p
       left join cg_banco b on b.bancoid = p.bancoid
       left join datoscaja c on c.num_caja = :caja
