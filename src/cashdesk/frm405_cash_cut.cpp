@@ -227,7 +227,8 @@ void FRM405::CorteDetallado() {
     caja.FormaPago1.open(key);
     caja.PagosOdontologia1.open(key);
 
-    const auto by = isAdministrator() ? CutBy::Administrator : CutBy::Cashier;
+    const auto by =
+        session().Acceso.text() == QLatin1String("CA") ? CutBy::Cashier : CutBy::Administrator;
     std::optional<int> pkTipoCaja;
     if (caja.DatosCaja1.isOpen()) {
         pkTipoCaja = caja.DatosCaja1.integer(QStringLiteral("pk_tipo_caja"));

@@ -84,7 +84,7 @@ void Registration::Folio() {
     NamedQuery &desk = context_.caja.DatosCaja1;
     const QString nota = QStringLiteral("nota_vta");
     desk.edit();
-    desk.set(nota, desk.integer(nota) + 1);
+    desk.set(nota, desk.value(nota).toLongLong() + 1);
     desk.post();
     desk.apply();
 }

@@ -340,6 +340,14 @@ TEST_F(Registering, APainterThatCannotBeginEndsInTheSameBox) {
     EXPECT_TRUE(desk.printing.records.isEmpty());
 }
 
+TEST_F(Registering, TheCounterStaysOnTheLastNumberThatAColumnHolds) {
+    test::run(records.clinic, "update datoscaja set nota_vta = 2147483647 where num_caja = 1");
+    const NoteDraft draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
+    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    EXPECT_EQ(rows("registrovtas", "status, recibo", 2147483647), "GE|1-2147483647");
+    EXPECT_EQ(desk.nextNote(), 2147483647);
+}
+
 TEST_F(Registering, ANumberThatIsNoneWritesNothing) {
     NoteDraft draft = desk.note("AL - ALUMNOS", 8, {1});
     draft.matricula = "12-";
