@@ -8,7 +8,7 @@
 namespace kaldo {
 
 void FRM401::repetirExpediente() {
-    if (!session().UltimoExpediente.text().isEmpty()) {
+    if (!Edit2_->isReadOnly() && !session().UltimoExpediente.text().isEmpty()) {
         Edit2_->setText(session().UltimoExpediente.text());
     }
 }
@@ -102,6 +102,7 @@ bool FRM401::edadCorresponde() {
 /// Nothing of an earlier dossier stays while another one is sought.
 void FRM401::forgetDossier() {
     LimpiaEmpleado();
+    expedienteTomado_ = false;
     FolioAdmision_ = 0;
     PrestacionExpediente_ = 0;
     for (TextField *field : {paterno_, materno_, nombre_, matricula_, alumno_, tipoPaciente_}) {
@@ -159,6 +160,7 @@ bool FRM401::useDossier() {
 }
 
 void FRM401::takeDossierData() {
+    expedienteTomado_ = true;
     PrestacionExpediente_ = Expe_->integer(QStringLiteral("PRESTACION"));
     Edit2_->setText(Expe_->text(QStringLiteral("EXPEDIENTE")));
     paterno_->setText(Expe_->text(QStringLiteral("PATERNO")));

@@ -1,4 +1,6 @@
+#include <QCoreApplication>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QShortcut>
 
 #include "app/binding.h"
@@ -63,9 +65,15 @@ LookupSource dossierSource(NamedQuery *query) {
              {QStringLiteral("CENTRO"), QStringLiteral("Centro"), 7, CellMask::Text}}};
 }
 
-/// Bound before the screen's own handler is connected: that one finds the cursor on the row.
-std::function<void(LookupField *)> boundTo(NamedQuery *query) {
-    return [query](LookupField *field) { bindLookup(field, query); };
+/// As Enter on the button: the field where the keys came from is left first, and what it has to
+/// say may disable the button or keep the focus.
+void pressFrom(Button *target) {
+    if (!target->isEnabled()) {
+        return;
+    }
+    target->setFocus(Qt::ShortcutFocusReason);
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &enter);
 }
 
 void retainRoom(QWidget *widget) {
@@ -82,16 +90,27 @@ void FRM401::buildForm() {
           column({headingItems(), serviceItems(), patientItems(), linesItems(), totalsItems()}));
     keepRoomWhenHidden();
     qobject_cast<QGridLayout *>(layout())->setRowStretch(kLinesRow, 1);
-    bindGrid(grid_, &context().local.FBDetalleVtas);
+    bindLists();
     wireGrid();
     prestacionLabel_ = findChild<QLabel *>(QStringLiteral("CEdit1_label"));
     RadioGroup1_->setOptionEnabled(int(NoteMode::Consultar), false);
 
+    addShortcuts();
+}
+
+void FRM401::bindLists() {
+    bindLookup(ComboBox2_, &context().odonto.serviciosxctros);
+    bindLookup(ComboBox3_, &context().odonto.AreaAtencion);
+    bindLookup(listaExpedientes_, &context().odonto.CargarExp);
+    bindGrid(grid_, &context().local.FBDetalleVtas);
+}
+
+void FRM401::addShortcuts() {
     const auto shortcut = [this](const QKeySequence &keys, Button *target) {
         auto *action = new QShortcut(keys, this);
         action->setContext(Qt::WidgetWithChildrenShortcut);
         action->setAutoRepeat(false);
-        connectGuarded(action, &QShortcut::activated, target, [target] { target->click(); });
+        connectGuarded(action, &QShortcut::activated, target, [target] { pressFrom(target); });
     };
     shortcut(QKeySequence(Qt::Key_Insert), agregar_);
     shortcut(QKeySequence(Qt::CTRL | Qt::Key_Delete), borrar_);
@@ -122,7 +141,7 @@ form::Item FRM401::headingItems() {
                  .with([](RadioGroup *group) {
                      group->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
                  })
-                 .clicked([this](int) { RadioGroup1Click(); }),
+                 .clicked([this](int) { repetirModo(); }),
              text(&Edit1_, QStringLiteral("Edit1"), QStringLiteral("Nota de Pago"))
                  .digits()
                  .width(10)
@@ -142,7 +161,6 @@ form::Item FRM401::serviceItems() {
          lookup(&ComboBox2_, QStringLiteral("ComboBox2"), QStringLiteral("Clasif. del Servicio"))
              .source(descriptions(&context().odonto.serviciosxctros, QStringLiteral("TIPO_PROD"),
                                   QStringLiteral("Clasif. del Servicio")))
-             .with(boundTo(&context().odonto.serviciosxctros))
              .closedUp([this] { elegirArea(); })
              .grow(),
          strip(
@@ -150,7 +168,6 @@ form::Item FRM401::serviceItems() {
              {lookup(&ComboBox3_, QStringLiteral("ComboBox3"), QStringLiteral("Lugar de Atención"))
                   .source(descriptions(&context().odonto.AreaAtencion, QStringLiteral("AREA"),
                                        QStringLiteral("Lugar de Atención")))
-                  .with(boundTo(&context().odonto.AreaAtencion))
                   .closedUp([this] { elegirLugar(); })
                   .above()
                   .grow()})
@@ -178,7 +195,6 @@ form::Item FRM401::patientItems() {
              .shown(10)
              .key(Qt::Key_F5, [this] { consultarExpedientes_->click(); })
              .arrive([this] { listaExpedientes_->openList(); })
-             .with(boundTo(&context().odonto.CargarExp))
              .closedUp([this] { tomarExpediente(); })
              .cancelled([this] { cancelarLista(); }),
          text(&tipoPaciente_, QStringLiteral("TipoPaciente"), QStringLiteral("Tipo de Paciente"))

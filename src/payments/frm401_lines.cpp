@@ -64,17 +64,19 @@ void FRM401::Editar() {
     agregar_->setEnabled(false);
     borrar_->setEnabled(false);
     cancelar_->setEnabled(true);
+    grid_->setRowSelection(true);
 }
 
 void FRM401::NoEditar() {
     Editando_ = false;
     grid_->setRowSelection(false);
-    agregar_->setEnabled(true);
     grabar_->setEnabled(false);
     cancelar_->setEnabled(false);
     const bool any = !context().local.FBDetalleVtas.isEmpty();
+    const bool missing = payerMissing();
+    agregar_->setEnabled(!missing);
     borrar_->setEnabled(any);
-    registrar_->setEnabled(any);
+    registrar_->setEnabled(any && !missing);
     showTotals();
 }
 
@@ -118,6 +120,12 @@ QList<NoteLine> FRM401::lines() {
 
 bool FRM401::claveVacia() const {
     return !context().local.FBDetalleVtas.value(clave()).isValid();
+}
+
+/// The row has no concept yet, or that of another key than it shows.
+bool FRM401::conceptoPendiente() const {
+    const NamedQuery &lines = context().local.FBDetalleVtas;
+    return lines.isNull(QStringLiteral("CODIGO")) || lines.value(clave()) != ClaveActual_;
 }
 
 void FRM401::clearClave() {
@@ -246,6 +254,11 @@ bool FRM401::precioCabe() {
 void FRM401::grabarInformacion() {
     NamedQuery &table = context().local.FBDetalleVtas;
     if (!grid_->commitEditor()) {
+        return;
+    }
+    if (conceptoPendiente()) {
+        moveFocus(grid_);
+        enterClave();
         return;
     }
     if (!cantidadCabe()) {

@@ -16,10 +16,19 @@ constexpr int kOldestChild = 13;
 
 }  // namespace
 
-/// Who pays is known: lines can be added.
+/// Who pays is known: lines can be added, or the one that is open goes on.
 void FRM401::readyForLines() {
+    if (Editando_) {
+        moveFocus(grid_);
+        return;
+    }
     agregar_->setEnabled(true);
     moveFocus(agregar_);
+}
+
+/// A note of the clinic is charged to a dossier and to nobody else.
+bool FRM401::payerMissing() const {
+    return payerPath(TipoServ_) == PayerPath::Dossier && !expedienteTomado_;
 }
 
 void FRM401::enterPaterno() {
@@ -108,6 +117,7 @@ void FRM401::buscarAlumno() {
     if (!Obligatorio(matricula_, QStringLiteral("Matricula es"))) {
         return;
     }
+    alumno_->clear();
     const StudentLookup found =
         findStudent(context().escolares, matricula_->text(), [this](int unit) {
             NamedQuery &units = context().local.Unidades;
@@ -157,7 +167,6 @@ void FRM401::buscarPosgrado() {
         QStringLiteral("La matrícula no se encuentra registrada o esta capturada incorrectamente, "
                        "verifique su información."));
     matricula_->clear();
-    alumno_->clear();
     stayHere();
 }
 

@@ -66,9 +66,18 @@ void FRM401::RadioGroup1Click() {
     Habilitar();
     NamedQuery &desk = context().caja.DatosCaja1;
     desk.open({{QStringLiteral("caja"), int(session().NumCaja)}});
+    // Without a desk there is no number, and the field stays empty.
     NotaActual_ = desk.integer(QStringLiteral("NOTA_VTA"));
-    Edit1_->setText(QString::number(NotaActual_));
+    Edit1_->setText(desk.text(QStringLiteral("NOTA_VTA")));
     moveFocus(ComboBox1_);
+}
+
+/// The mode in force chosen once more is no change: a note that is being written stays. Only where
+/// its number could not be read the mode is entered again.
+void FRM401::repetirModo() {
+    if (Edit1_->text().isEmpty()) {
+        RadioGroup1Click();
+    }
 }
 
 /// What a new note and a new service type both put back to the start.
@@ -102,6 +111,7 @@ void FRM401::clearPayer() {
     }
     // The age of nobody yet: a date left at today is asked for.
     edad_->setText(QStringLiteral("0"));
+    expedienteTomado_ = false;
     sexo_->setIndex(-1);
     for (TextField *name : {paterno_, materno_, nombre_}) {
         name->setFieldReadOnly(false);
@@ -142,16 +152,12 @@ void FRM401::Limpiar() {
     ComboBox2_->setEnabled(true);
 }
 
+/// Only a choice in the service list runs it, wherever the focus is by then: Tab has left the list
+/// before its choice counts.
 void FRM401::Limpiar1() {
-    const QWidget *focused = window()->focusWidget();
-    const bool fromService = focused == ComboBox1_;
     clearCounters();
-    if (fromService) {
-        ComboBox2_->clearField();
-    }
-    if (fromService || focused == ComboBox2_) {
-        ComboBox3_->clearField();
-    }
+    ComboBox2_->clearField();
+    ComboBox3_->clearField();
     panelLugar_->setVisible(false);
     clearPayer();
 }
@@ -175,6 +181,9 @@ void FRM401::LimpiarTabla() {
     context().local.LimpiarTabla.execute({});
     lines.reopen();
     Editando_ = false;
+    for (Button *button : {borrar_, grabar_, cancelar_, registrar_}) {
+        button->setEnabled(false);
+    }
     showTotals();
 }
 

@@ -41,12 +41,15 @@ private:
     form::Item linesItems();
     form::Item totalsItems();
     void keepRoomWhenHidden();
+    void bindLists();
+    void addShortcuts();
     void wireGrid();
 
     // Opening, mode and resets
     void Combo();
     void fillHeading();
     void RadioGroup1Click();
+    void repetirModo();
     void Limpiar();
     void Limpiar1();
     void Habilitar();
@@ -122,18 +125,21 @@ private:
     void enterPrecio();
     void takeConcept();
     bool claveVacia() const;
+    bool conceptoPendiente() const;
     bool cantidadCabe();
     bool precioCabe();
     void showTotals();
     void stayInColumn(const QString &field);
     void clearClave();
     void readyForLines();
+    bool payerMissing() const;
     void descripcionAdicional();
 
     // Registering
     NoteDraft draft();
     QList<NoteLine> lines();
     void registrarInformacion();
+    bool takeNoteNumber();
 
     FRM401_3 &formaPago_;
     FRMAlumnos &alumnos_;
@@ -160,6 +166,7 @@ private:
     bool NombreRepetido_ = false;
     bool PrestamoValido_ = false;
     bool PrestamoPendiente_ = false;
+    bool expedienteTomado_ = false;  ///< the payer's fields show a dossier that was accepted
     bool claveRechazada_ =
         false;  ///< the key typed last was cleared: the same Enter goes no further
 

@@ -1,5 +1,8 @@
 #include <QScopeGuard>
 
+#include <limits>
+#include <stdexcept>
+
 #include "payments/frm401_3_payment_form.h"
 #include "payments/frm401_payment_note.h"
 #include "payments/registration.h"
@@ -19,7 +22,9 @@ const QString &noStudent() {
 void FRM401::registrarInformacion() {
     registrar_->setEnabled(false);
     auto usableAgain = qScopeGuard([this] { registrar_->setEnabled(true); });
-    NotaActual_ = Edit1_->text().toInt();
+    if (!takeNoteNumber()) {
+        return;
+    }
     if (matricula_->text().trimmed().isEmpty()) {
         matricula_->setText(noStudent());
     }
@@ -35,6 +40,24 @@ void FRM401::registrarInformacion() {
     registration_->registrar(note, payment);
     session().UltimoExpediente = QString();
     formCreate();
+}
+
+/// Fails without a number, and refuses the last one that the desk can count: nothing could follow
+/// it.
+bool FRM401::takeNoteNumber() {
+    bool isNumber = false;
+    const int number = Edit1_->text().toInt(&isNumber);
+    if (!isNumber) {
+        throw std::runtime_error("La caja no tiene un número de nota válido.");
+    }
+    if (number == std::numeric_limits<int>::max()) {
+        messages().warning(QStringLiteral("La caja llegó a la última nota posible, %1. Corrija la "
+                                          "numeración en Datos Caja antes de registrar.")
+                               .arg(number));
+        return false;
+    }
+    NotaActual_ = number;
+    return true;
 }
 
 /// All that registration and receipt need of this screen, copied once.

@@ -39,6 +39,8 @@ void FRM401::elegirArea() {
     places.open({{QStringLiteral("centro"), session().Centro.text()},
                  {QStringLiteral("tipo"), tipoProd()}});
     ComboBox3_->clearField();
+    // Whoever was identified before has to pass the new area's tests.
+    agregar_->setEnabled(false);
     panelLugar_->setVisible(!places.isEmpty());
     if (places.isEmpty()) {
         ClasServicios();
@@ -55,6 +57,7 @@ void FRM401::elegirLugar() {
 
 /// The service decides how the payer is identified.
 void FRM401::ClasServicios() {
+    agregar_->setEnabled(false);
     switch (payerPath(TipoServ_)) {
         case PayerPath::OpenDossier:
             abrirExpediente();
@@ -153,6 +156,11 @@ void FRM401::identifyByStudent() {
 
 void FRM401::identifyEmployeeOrStudent() {
     openPatientType(kPlainPatient);
+    // Asked anew: the answer of before must not name the payer.
+    LimpiaEmpleado();
+    for (TextField *field : {noEmpleado_, matricula_, alumno_}) {
+        field->clear();
+    }
     panelNoEmpleado_->setVisible(false);
     panelAlumno_->setEnabled(false);
     panelPaciente_->setEnabled(false);
