@@ -328,6 +328,18 @@ TEST_F(PaymentForm, LayoutsFollowBenefitAndAdvance) {
         EXPECT_EQ(shown("CEdit8"), "$400.00");
         EXPECT_EQ(focused(), "CEdit4");
     });
+    station.messages.expectConfirmation("¿El paciente dará anticipo?", Answer::Yes);
+    station.messages.expectInformation(
+        "Los anticipos todavía no están disponibles. La nota se cobra completa.");
+    const Payment whole = pay(noteDraft("AP - SERVICIOS DE CLINICA", lines, 0, "S"), [&] {
+        EXPECT_EQ(focused(), "CEdit4");
+        typeText("400");
+        press(Qt::Key_Return);
+        press(Qt::Key_Return);
+    });
+    EXPECT_TRUE(whole.confirmado);
+    EXPECT_EQ(whole.importeAPagar, 400);
+    EXPECT_EQ(whole.saldo, 0);
 }
 
 TEST_F(PaymentForm, AWholeBenefitOnADossierIsNotAskedFor) {
