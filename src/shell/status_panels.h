@@ -4,14 +4,11 @@
 #include <QElapsedTimer>
 #include <QStatusBar>
 
-#include <array>
-
-class QLabel;
 class QProgressBar;
 
 namespace kaldo {
 
-class NoticeLabel;
+class PanelRow;
 
 /// The status bar of the main window: seven panels, counted from 0, with the progress bar over
 /// panel 4, which takes its room while the bar stands.
@@ -21,9 +18,11 @@ class StatusPanels : public QStatusBar {
 public:
     explicit StatusPanels(QWidget *parent = nullptr);
 
+    /// Where there is no room for all, the greeting, the user and the city are cut, and last the
+    /// notice; a panel that is cut tells its whole text in its tool tip.
     void setPanel(int panel, const QString &text);
-    /// A text for panel 2, cut down to what there is room for: a path that it ends in to the name
-    /// of its file, and then to that name alone. The whole text is the panel's tool tip.
+    /// A text for panel 2. Of a path that it ends in the panel shows what there is room for: all of
+    /// it, the name of its file behind the text, or that name alone.
     void showNotice(const QString &text);
     void setBarColour(const QColor &colour);
 
@@ -34,8 +33,7 @@ public:
 private:
     void showTextColour(bool early);
 
-    std::array<QLabel *, 7> panels_{};
-    NoticeLabel *notice_ = nullptr;
+    PanelRow *row_ = nullptr;
     QProgressBar *bar_ = nullptr;
     QColor barColour_;
     int total_ = 0;

@@ -201,29 +201,53 @@ TEST(MainWindow, HeadingsHaveTheirLettersForThemselves) {
 TEST(MainWindow, NoticeTellsTheFileWhereThePathHasNoRoom) {
     ShellStation station;
     station.logIn("cajero1", "caja1");
-    const QString path =
-        QStringLiteral("/una/carpeta bastante larga/de la instalación/Recibos/Nota 1-2.pdf");
-    const QString notice = QStringLiteral("No hay impresora; el documento se guardó en ") + path;
+    const QString file = QStringLiteral("Recibo de Pago_20240603-093000_01.pdf");
+    const QString notice =
+        QStringLiteral("No hay impresora; el documento se guardó en /una/carpeta larga/Recibos/") +
+        file;
+    const auto *panel = child<QLabel>(&station.window(), "panel2");
     station.window().resize(1024, 768);
     settle();
     station.window().showNotice(notice);
-    EXPECT_TRUE(station.panel(2).endsWith("Nota 1-2.pdf")) << qPrintable(station.panel(2));
-    EXPECT_FALSE(station.panel(2).contains(u'…'));
-    EXPECT_EQ(child<QLabel>(&station.window(), "panel2")->toolTip(), notice);
+    EXPECT_TRUE(station.panel(2).endsWith(file)) << qPrintable(station.panel(2));
+    EXPECT_GE(panel->width(), panel->fontMetrics().horizontalAdvance(panel->text()));
+    EXPECT_EQ(panel->toolTip(), notice);
     picture(&station.window(), "notice_1024");
-    station.window().resize(2600, 768);
-    settle();
-    EXPECT_EQ(station.panel(2), "   " + notice);
     {
         Progress progress(station.window(), 4);
-        station.window().resize(1024, 768);
-        settle();
         progress.advance();
-        EXPECT_TRUE(station.panel(2).endsWith("Nota 1-2.pdf")) << qPrintable(station.panel(2));
         const auto *bar = child<QProgressBar>(&station.window(), "progressBar");
         EXPECT_GE(bar->parentWidget()->width(), bar->width()) << "the bar has its room";
         picture(&station.window(), "progress_1024");
     }
+    station.window().resize(2600, 768);
+    settle();
+    EXPECT_EQ(station.panel(2), "   " + notice);
+}
+
+TEST(MainWindow, LongNamesDoNotWidenTheWindow) {
+    ShellStation station;
+    station.installation.setIni("Usuario", "ciudad", "Ciudad Gómez Morín y M");
+    ASSERT_TRUE(station.start());
+    const QString name = QString(20, u'M');
+    run(station.program->conexion().FBOdonto,
+        "update controlusuarios set nombrecorto=:nombre where usuario='cajero1'",
+        {{"nombre", name}});
+    station.inDialog(
+        station.login(), [] {}, [&] { station.typeUser("cajero1", "caja1"); });
+    EXPECT_LE(station.window().minimumSizeHint().width(), 1024);
+    station.window().resize(1024, 768);
+    station.window().showNotice(
+        QStringLiteral("El documento se envió a la impresora de la ventanilla"));
+    settle();
+    EXPECT_EQ(station.panel(0), "   Usuario: " + name) << "whole, though it is shown cut";
+    EXPECT_EQ(child<QLabel>(&station.window(), "panel0")->toolTip(), "Usuario: " + name);
+    EXPECT_EQ(station.panel(5), "   Ciudad: Ciudad Gómez Morín y");
+    for (const char *whole : {"panel2", "panel3"}) {
+        const auto *panel = child<QLabel>(&station.window(), QString::fromLatin1(whole));
+        EXPECT_GE(panel->width(), panel->fontMetrics().horizontalAdvance(panel->text())) << whole;
+    }
+    picture(&station.window(), "long_name_1024");
 }
 
 TEST(MainWindow, ControlPanelEntryIsMuteForTheDesks) {
