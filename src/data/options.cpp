@@ -125,7 +125,7 @@ void Options::loadAdmissions(const IniFile &ini) {
 void Options::loadDossiers(const IniFile &ini) {
     FechaBusquedaExpedientes = dateText(ini, kDossiers, QStringLiteral("fbusqueda"));
     GenerarExpediente = ini.isYes(kDossiers, QStringLiteral("guardar"));
-    CapturarSaldos = ini.isYes(kDossiers, QStringLiteral("saldo"));
+    CapturarSaldos = GenerarExpediente && ini.isYes(kDossiers, QStringLiteral("saldo"));
     ExpedientesOtrosCentros = ini.isYes(kDossiers, QStringLiteral("verexp"));
     ValidarEdad = ini.isYes(kDossiers, QStringLiteral("validaedad"));
     ActivarPrestamo = ini.isYes(kDossiers, QStringLiteral("prestamo"));

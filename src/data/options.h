@@ -64,7 +64,7 @@ struct Options {
     // [Expedientes]
     bool ExpedienteUniversal = false;      ///< controlexp
     bool GenerarExpediente = false;        ///< guardar
-    bool CapturarSaldos = false;           ///< saldo
+    bool CapturarSaldos = false;           ///< saldo; never without guardar
     bool ExpedientesOtrosCentros = false;  ///< verexp
     bool ValidarEdad = false;
     bool ActivarPrestamo = false;

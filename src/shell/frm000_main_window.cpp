@@ -228,6 +228,11 @@ void FRM000::whenRunning(std::function<void()> call) {
     }
 }
 
+void FRM000::tellFailure(const std::exception &failure) {
+    const std::runtime_error copy(failure.what());
+    whenRunning([copy] { Application::current()->reportFailure(copy); });
+}
+
 void FRM000::setRunning() {
     running_ = true;
 }

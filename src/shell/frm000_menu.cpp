@@ -169,8 +169,7 @@ void FRM000::EnableButtons() {
             MainSkin();
         } catch (const std::exception &failure) {
             // Told, but no reason to keep anybody out.
-            const std::runtime_error copy(failure.what());
-            whenRunning([copy] { Application::current()->reportFailure(copy); });
+            tellFailure(failure);
         }
     }
     if (context_.session.AnioActual == 0) {

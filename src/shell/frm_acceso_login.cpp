@@ -91,8 +91,7 @@ void FRMAcceso::formCreate() {
     try {
         BitBtn1Click();
     } catch (const std::exception &failure) {
-        const std::runtime_error copy(failure.what());
-        main_.whenRunning([copy] { Application::current()->reportFailure(copy); });
+        main_.tellFailure(failure);
     }
 }
 

@@ -188,7 +188,11 @@ void Program::createResidents() {
     runGuarded([&] { parts.login->formCreate(); });
     parts.splash = std::make_unique<FRMInicio>(window.splashPicture());
     parts.splash->show();
-    runGuarded([&] { parts.splash->formCreate(parts.ini); });
+    try {
+        parts.splash->formCreate(parts.ini);
+    } catch (const std::exception &failure) {
+        window.tellFailure(failure);  // the splash would cover a box
+    }
     parts.incompletos = std::make_unique<FRM801>(context);
 }
 

@@ -60,12 +60,15 @@ TEST(OptionsTest, ReadsEveryKeyAndStopsAtTheFirstThatIsNoNumber) {
     files.setIni("Expedientes", "prestamo", "S");
     files.setIni("Expedientes", "sysanterior", "N");
     files.setIni("Admisiones", "consentimiento", "");
+    files.setIni("Expedientes", "saldo", "S");
+    files.setIni("Expedientes", "guardar", "N");
     Options other;
     other.load(IniFile(files.iniPath()));
     EXPECT_EQ(other.Iniciales, other.NombreInstitucion);
     EXPECT_EQ(other.sector, Sector::None);
     EXPECT_EQ(other.Estado, -1);
     EXPECT_EQ(other.Consentimiento, -1);
+    EXPECT_FALSE(other.CapturarSaldos) << "no balances where no dossiers are opened";
     EXPECT_FALSE(other.ActivarPrestamo) << "without the old system the loans come up off";
     EXPECT_EQ(other.ExpedientesPorAlumno, 0);
 

@@ -37,6 +37,7 @@ public:
         settings.clock = &clock;
         settings.messages = &messages;
         settings.printing = &printing;
+        settings.seam = seam;
         settings.splash = splash;
         settings.tick = tick;
         program = std::make_unique<Program>(settings);
@@ -113,6 +114,7 @@ public:
     std::chrono::milliseconds tick{3600000};
     ScriptedMessages messages;
     RecordingPrinting printing;
+    Seam *seam = nullptr;
     std::unique_ptr<Program> program;
     bool stillOpen = false;
 };

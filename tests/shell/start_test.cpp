@@ -4,7 +4,9 @@
 #include "shell/main_skin.h"
 #include "shell/version.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTableView>
 
 namespace kaldo::test {
@@ -136,6 +138,32 @@ TEST(Start, SplashStandsUntilTheLoginComes) {
     EXPECT_EQ(IniFile(station.installation.iniPath()).value("Alert", "version"), "1.0.0.0");
     station.inDialog(
         station.login(), [] {}, [&] { EXPECT_EQ(station.program->splash(), nullptr); });
+}
+
+TEST(Start, IniFileThatCannotBeWrittenIsToldWhenTheSplashHasGone) {
+    /// Takes the file's folder away once the main window has read it.
+    class FolderGoes : public Seam {
+    public:
+        void afterExecution(const Execution &) override {
+            if (QFileInfo(folder).isDir()) {
+                QDir(folder).removeRecursively();
+                overwrite(folder, "x");
+            }
+        }
+        QString folder;
+    } seam;
+    ShellStation station;
+    seam.folder = station.installation.root() + "/Ini";
+    station.seam = &seam;
+    station.splash = std::chrono::milliseconds(100);
+    ASSERT_TRUE(station.start());
+    settle();
+    EXPECT_TRUE(station.messages.shown().isEmpty());
+    EXPECT_TRUE(station.program->splash()->isVisible());
+    station.messages.expectError("No se pudo escribir el archivo de configuración*");
+    station.inDialog(
+        station.login(), [] {}, [&] { station.typeUser("cajero1", "caja1"); });
+    EXPECT_FALSE(station.stillOpen);
 }
 
 TEST(Start, VersionIsThatOfTheBuild) {
