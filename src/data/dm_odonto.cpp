@@ -28,7 +28,7 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
                         "acceso='CA'"}),
       Usuarios_Mant1({"Usuarios_Mant1", "select * from usuarios_m where usuario=:usuario"}),
       CambiaPass({"CambiaPass", "update controlusuarios set pass=:pass where usuario=:usuario"}),
-      Control({"Control", "select * from control where llave=1"}),
+      Control({"Control", "select * from control where llave=1", "control", "llave"}),
       ControlExpediente(
           {"ControlExpediente", "select * from controlexpedientes where campus=:campus"}),
       ControlExpedientes(

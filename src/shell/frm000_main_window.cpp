@@ -188,8 +188,6 @@ void FRM000::Timer1() {
         QTime::fromString(context_.ini.value(QStringLiteral("Equipo"), QStringLiteral("hora")),
                           QStringLiteral("HH:mm:ss"));
     if (closingHourReached(before, now, hour)) {
-        showNotice(QStringLiteral("Llegó la hora de cierre de KALDO: %1.")
-                       .arg(hour.toString(QStringLiteral("HH:mm:ss"))));
         emit closingHour();
     }
 }

@@ -2,6 +2,7 @@
 
 #include "shell/frm000_main_window.h"
 #include "shell/frm_pass_password.h"
+#include "shell/update_check.h"
 #include "toolkit/core/text.h"
 #include "toolkit/forms/form.h"
 
@@ -24,10 +25,11 @@ const QString kLeaveProgram = QStringLiteral("&Salir de la Aplicación");
 
 }  // namespace
 
-FRMAcceso::FRMAcceso(Context &context, FRM000 &main, FRMPass &password)
+FRMAcceso::FRMAcceso(Context &context, FRM000 &main, FRMPass &password, UpdateCheck &update)
     : Dialog(context, QStringLiteral("FRMAcceso"), QStringLiteral("Acceso a Usuario")),
       main_(main),
-      password_(password) {}
+      password_(password),
+      update_(update) {}
 
 void FRMAcceso::build() {
     using namespace form;
@@ -195,6 +197,13 @@ bool FRMAcceso::logIn(const QString &code, const QString &password) {
         return false;
     }
     findCentre();
+    if (options().BuscarActualizaciones &&
+        (profile == QLatin1String("AM") || profile == QLatin1String("CA"))) {
+        lookForUpdate();
+        if (Application::current()->ending()) {
+            return false;
+        }
+    }
     offerWizard();
     return true;
 }
@@ -279,6 +288,14 @@ void FRMAcceso::findCentre() {
         {{QStringLiteral("centro"), cutToWidth(session().Centro.text().trimmed(), kCentreWidth)}});
     session().Prog = centres.text(QStringLiteral("prog")).rightJustified(kProgrammeWidth, u'0');
     session().CentroDescr = centres.text(QStringLiteral("descr"));
+}
+
+void FRMAcceso::lookForUpdate() {
+    main_.whenRunning([this] {
+        if (update_.run(UpdateCheck::Asked::AtLogin)) {
+            Application::current()->endApplication();
+        }
+    });
 }
 
 void FRMAcceso::offerWizard() {

@@ -11,13 +11,14 @@ class CheckField;
 class FRM000;
 class FRMPass;
 class TextField;
+class UpdateCheck;
 
 /// The door: checks a user, fills the session, sets the rights and the rate.
 class FRMAcceso final : public Dialog {
     Q_OBJECT
 
 public:
-    FRMAcceso(Context &context, FRM000 &main, FRMPass &password);
+    FRMAcceso(Context &context, FRM000 &main, FRMPass &password, UpdateCheck &update);
 
     /// The work of its creation: on a consultation station with its own user the login is done
     /// without the screen, and what has to be told waits for the run loop.
@@ -50,10 +51,12 @@ private:
     void loadRate();
     bool enterDesk(const QString &code);
     void findCentre();
+    void lookForUpdate();
     void offerWizard();
 
     FRM000 &main_;
     FRMPass &password_;
+    UpdateCheck &update_;
     int failures_ = 0;
     bool fromMenu_ = false;
 

@@ -8,6 +8,7 @@
 #include "shell/frm_acceso_login.h"
 #include "shell/frm_inicio_splash.h"
 #include "shell/frm_pass_password.h"
+#include "shell/frm_version_about.h"
 #include "shell/main_skin.h"
 #include "toolkit/forms/application.h"
 
@@ -54,7 +55,9 @@ struct Program::Parts {
                   odonto,
                   caja,
                   finanzas,
-                  escolares} {
+                  escolares},
+          update(context, settings.update),
+          countDown(settings.countDown) {
         conexion.setSeam(settings.seam);
     }
     ~Parts() {
@@ -80,12 +83,16 @@ struct Program::Parts {
     std::unique_ptr<FRM000> window;
     report::SystemPrinting systemPrinting;
     Context context;
+    UpdateCheck update;
+    CountDownPace countDown;
 
     std::unique_ptr<FRM401_3> formaPago;
     std::unique_ptr<FRMAlumnos> alumnos;
+    std::unique_ptr<FRMVersion> version;
     std::unique_ptr<FRMPass> password;
     std::unique_ptr<FRMAcceso> login;
     std::unique_ptr<FRMInicio> splash;
+    std::unique_ptr<FRMClose> cierre;
     std::unique_ptr<FRM801> incompletos;
 };
 
@@ -181,8 +188,10 @@ void Program::createResidents() {
     FRM000 &window = *parts.window;
     parts.formaPago = std::make_unique<FRM401_3>(context);
     parts.alumnos = std::make_unique<FRMAlumnos>(context);
+    parts.version = std::make_unique<FRMVersion>(context);
+    parts.version->setParent(&window, Qt::Dialog);
     parts.password = std::make_unique<FRMPass>(context);
-    parts.login = std::make_unique<FRMAcceso>(context, window, *parts.password);
+    parts.login = std::make_unique<FRMAcceso>(context, window, *parts.password, parts.update);
     parts.login->setParent(&window, Qt::Dialog);
     parts.password->setParent(&window, Qt::Dialog);
     runGuarded([&] { parts.login->formCreate(); });
@@ -193,6 +202,9 @@ void Program::createResidents() {
     } catch (const std::exception &failure) {
         window.tellFailure(failure);  // the splash would cover a box
     }
+    parts.cierre = std::make_unique<FRMClose>(context, parts.countDown);
+    parts.cierre->setParent(&window, Qt::Dialog);
+    connectGuarded(&window, &FRM000::closingHour, parts.cierre.get(), &FRMClose::begin);
     parts.incompletos = std::make_unique<FRM801>(context);
 }
 
@@ -205,6 +217,13 @@ void Program::registerScreens() {
     window.setScreen(QStringLiteral("E6"),
                      [&parts] { return std::make_unique<FRM405>(parts.context); });
     window.setHandler(QStringLiteral("J1"), [&parts] { parts.login->openFromMenu(); });
+    window.setHandler(QStringLiteral("K2"), [&parts] {
+        if (parts.update.run(UpdateCheck::Asked::FromMenu)) {
+            Application::current()->endApplication();
+        }
+    });
+    window.setHandler(QStringLiteral("K3"),
+                      [&parts, &window] { parts.version->showModal(window.childScreen()); });
     window.setHandler(QStringLiteral("J2a"),
                       [&parts, &window] { parts.incompletos->showModal(window.childScreen()); });
 }

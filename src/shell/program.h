@@ -7,6 +7,8 @@
 
 #include "app/context.h"
 #include "shell/frm000_main_window.h"
+#include "shell/frm_close_countdown.h"
+#include "shell/update_check.h"
 
 namespace kaldo {
 
@@ -23,6 +25,8 @@ struct ProgramSettings {
     Seam *seam = nullptr;                    ///< watches every connection
     std::chrono::milliseconds splash{5000};  ///< from the start of the run loop to the login
     std::chrono::milliseconds tick{1000};    ///< pace of the clock
+    CountDownPace countDown;                 ///< before the program ends by itself
+    UpdateSettings update;                   ///< the way to the update server
 };
 
 /// One run of the system on a station: owns everything from the ini file to the main window.

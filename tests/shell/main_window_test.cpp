@@ -333,7 +333,7 @@ TEST(MainWindow, ClosingHourIsToldOnce) {
     station.clock.set(QDateTime(QDate(2024, 6, 3), QTime(20, 0, 2)));
     QTest::qWait(40);
     EXPECT_EQ(hours.count(), 1);
-    EXPECT_TRUE(station.panel(2).contains(QStringLiteral("hora de cierre")));
+    EXPECT_TRUE(child<FRMClose>(&station.window(), "FRMClose")->isVisible());
 }
 
 TEST(MainWindowDeathTest, YesEndsTheApplication) {

@@ -40,6 +40,8 @@ public:
         settings.seam = seam;
         settings.splash = splash;
         settings.tick = tick;
+        settings.countDown = countDown;
+        settings.update = update;
         program = std::make_unique<Program>(settings);
         return *program;
     }
@@ -112,6 +114,8 @@ public:
     TestClock clock;
     std::chrono::milliseconds splash{0};
     std::chrono::milliseconds tick{3600000};
+    CountDownPace countDown;
+    UpdateSettings update;
     ScriptedMessages messages;
     RecordingPrinting printing;
     Seam *seam = nullptr;

@@ -46,6 +46,7 @@ FtpTestServer::FtpTestServer(const QString &directory, const QString &name,
         ready.release();
         while (!stop_) {
             if (server.waitForNewConnection(kTurn)) {
+                ++calls_;
                 const std::unique_ptr<QTcpSocket> control(server.nextPendingConnection());
                 serve(*control);
             }

@@ -38,6 +38,8 @@ public:
     static QString user() { return QStringLiteral("kaldo"); }
     static QString password() { return QStringLiteral("abre te: #1@%"); }
     quint16 port() const { return port_; }
+    /// How many clients have called.
+    int calls() const { return calls_; }
     /// What clients have asked for so far, without passwords.
     QStringList commands() const;
 
@@ -56,6 +58,7 @@ private:
     const FtpFault fault_;
     quint16 port_ = 0;
     std::atomic<bool> stop_ = false;
+    std::atomic<int> calls_ = 0;
     mutable QMutex mutex_;
     QStringList commands_;
     std::unique_ptr<QThread> thread_;
