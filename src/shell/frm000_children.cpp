@@ -72,7 +72,9 @@ void FRM000::openScreen(const ScreenMaker &maker) {
     child_ = window;
     connectGuarded(screen, &Screen::closeRequested, window, [window] { window->close(); });
     connect(screen, &QObject::destroyed, window, &QObject::deleteLater);
-    connect(window, &QObject::destroyed, sideBar_, [this] { childGone(); });
+    // Queued: while a widget tells its destruction, a guarded pointer to it still stands.
+    connect(
+        window, &QObject::destroyed, sideBar_, [this] { childGone(); }, Qt::QueuedConnection);
     place(window);
     shareMnemonics(screen);
     screen->open();
