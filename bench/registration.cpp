@@ -12,7 +12,7 @@ namespace {
 using test::TestInstallation;
 
 constexpr int kWarmUps = 3;
-constexpr int kRuns = 25;
+constexpr int kRuns = 40;
 
 /// Two installations of stations that print nothing: receipts have a measurement of their own.
 struct Installations {
