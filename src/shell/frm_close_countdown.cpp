@@ -14,6 +14,8 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds kWhole = 3min;
 constexpr int kPicture = 56;
 
+const QString kAnnouncement = QStringLiteral("Este equipo esta configurado para apagar KALDO en: ");
+
 QString clockText(std::chrono::milliseconds left) {
     return QTime(0, 0)
         .addMSecs(static_cast<int>(left.count()))
@@ -43,27 +45,25 @@ void FRMClose::build() {
         label->setFont(font);
     };
     form::build(
-        this,
-        column({
-            row({form::label(&Image1_, QStringLiteral("Image1"))
-                     .with(glyph(QStringLiteral("clock"))),
-                 form::label(&Image2_, QStringLiteral("Image2"))
-                     .with(glyph(QStringLiteral("exit"))),
-                 panel(nullptr, QStringLiteral("Panel1"),
-                       column({
-                           form::label(&Label1_, QStringLiteral("Label1")).with([](QLabel *label) {
-                               label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 52);
-                           }),
-                           row({form::label(&Label2_, QStringLiteral("Label2")).with(large),
-                                form::label(&Label3_, QStringLiteral("Label3")), stretch()}),
-                       }))
-                     .grow()}),
-            row({stretch(),
-                 button(&BitBtn1_, QStringLiteral("BitBtn1"), QStringLiteral("&Cancelar"))
-                     .icon(QStringLiteral("cancel"))
-                     .escape()
-                     .clicked([this] { reject(); })}),
-        }));
+        this, column({
+                  row({form::label(&Image1_, QStringLiteral("Image1"))
+                           .with(glyph(QStringLiteral("clock"))),
+                       form::label(&Image2_, QStringLiteral("Image2"))
+                           .with(glyph(QStringLiteral("exit"))),
+                       panel(nullptr, QStringLiteral("Panel1"),
+                             column({
+                                 form::label(&Label1_, QStringLiteral("Label1"), kAnnouncement),
+                                 row({form::label(&Label2_, QStringLiteral("Label2")).with(large),
+                                      form::label(&Label3_, QStringLiteral("Label3")), stretch()}),
+                             }))
+                           .grow()}),
+                  row({stretch(),
+                       button(&BitBtn1_, QStringLiteral("BitBtn1"), QStringLiteral("&Cancelar"))
+                           .icon(QStringLiteral("cancel"))
+                           .escape()
+                           .clicked([this] { reject(); })}),
+              }));
+    Label1_->setMinimumWidth(Label1_->sizeHint().width());  // for the shorter farewell, too
 }
 
 void FRMClose::begin() {
@@ -74,7 +74,7 @@ void FRMClose::begin() {
     left_ = kWhole;
     Image1_->show();
     Image2_->hide();
-    Label1_->setText(QStringLiteral("Este equipo esta configurado para apagar KALDO en: "));
+    Label1_->setText(kAnnouncement);
     Label2_->setText(clockText(left_));
     Label3_->setText(QStringLiteral("Min."));
     clock_.start();
