@@ -50,7 +50,11 @@ Button::Button(QWidget *parent) : QPushButton(parent) {
 }
 
 void Button::setIconName(const QString &name) {
-    setIcon(iconNamed(name));
+    // A new icon of the same drawing would fill the cache of pixmaps with one more copy.
+    if (name != iconName_) {
+        iconName_ = name;
+        setIcon(iconNamed(name));
+    }
 }
 
 void Button::keyPressEvent(QKeyEvent *event) {

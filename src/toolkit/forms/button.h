@@ -22,6 +22,9 @@ public:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString iconName_;
 };
 
 /// The same with the picture alone; its text is the hint and what a screen reader says.

@@ -40,8 +40,14 @@ Choice::Choice(QWidget *parent) : QComboBox(parent), Field(this) {
 
 void Choice::setItems(const QStringList &items) {
     pending_ = false;
-    clear();
-    addItems(items);
+    QStringList present;
+    for (int row = 0; row < count(); ++row) {
+        present += itemText(row);
+    }
+    if (present != items) {
+        clear();
+        addItems(items);
+    }
     setCurrentIndex(-1);
 }
 

@@ -291,11 +291,11 @@ QVariant DataGrid::currentValue(const QString &field) const {
 
 void DataGrid::setColumnVisible(const QString &field, bool visible) {
     for (GridColumn::Settings &column : state_->columns) {
-        if (column.field.compare(field, Qt::CaseInsensitive) == 0) {
+        if (column.field.compare(field, Qt::CaseInsensitive) == 0 && column.hidden == visible) {
             column.hidden = !visible;
+            applyColumns();
         }
     }
-    applyColumns();
 }
 
 void DataGrid::setColumnTitle(const QString &field, const QString &title) {

@@ -79,7 +79,9 @@ QDate DateField::date() const {
 
 void DateField::setDate(const QDate &date) {
     settled_ = date;
-    setText(formatDate(date));
+    if (const QString shown = formatDate(date); shown != text()) {
+        setText(shown);
+    }
 }
 
 void DateField::setInvalidHandler(std::function<void(const QString &)> handler) {

@@ -75,8 +75,12 @@ void LineField::setShownCharacters(int characters) {
 }
 
 void LineField::setFieldReadOnly(bool readOnly) {
+    const Qt::FocusPolicy focus = readOnly ? Qt::ClickFocus : Qt::StrongFocus;
+    if (isReadOnly() == readOnly && focusPolicy() == focus) {
+        return;
+    }
     setReadOnly(readOnly);
-    setFocusPolicy(readOnly ? Qt::ClickFocus : Qt::StrongFocus);
+    setFocusPolicy(focus);
     QPalette colors;  // the rest stays with the application
     if (readOnly) {
         colors.setBrush(QPalette::Base, QApplication::palette(this).window());

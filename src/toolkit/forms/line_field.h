@@ -21,6 +21,9 @@ public:
     /// Characters that are visible without scrolling.
     void setShownCharacters(int characters);
 
+    /// Empties the field and forgets what could be undone. QLineEdit::clear() would keep every
+    /// text that ever stood here for as long as the screen lives.
+    void clear() { setText(QString()); }
     void clearField() override { clear(); }
     void setFieldReadOnly(bool readOnly) override;
 

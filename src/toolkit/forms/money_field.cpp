@@ -96,8 +96,8 @@ void MoneyField::showAtRest() {
     } else if (hasFocus() && !isReadOnly()) {
         setText(formatPlainNumber(value_));
         selectAll();
-    } else {
-        setText(formatMoney(value_, mask_));
+    } else if (const QString shown = formatMoney(value_, mask_); shown != text()) {
+        setText(shown);
     }
 }
 
