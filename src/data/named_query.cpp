@@ -468,22 +468,28 @@ QString NamedQuery::keyCondition(const Row &row, Parameters *values) const {
     return conditions.join(QLatin1String(" and "));
 }
 
-Statement NamedQuery::insertStatement(Parameters *values) const {
+Statement NamedQuery::insertStatement(Parameters *values) {
     const Row &row = rows_.at(static_cast<std::size_t>(pending_->row));
-    QStringList names;
-    QStringList placeholders;
     const std::size_t stored = columns_.size() - calculated_.size() - lookups_.size();
+    QStringList assigned;
     for (std::size_t at = 0; at < stored; ++at) {
-        if (!row[at].isValid()) {
-            continue;
+        if (row[at].isValid()) {
+            assigned += columns_[at].name;
+            values->append({columns_[at].name, row[at]});
         }
-        names += columnInText(columns_[at].name);
-        placeholders += QStringLiteral(":v%1").arg(at);
-        values->append({QStringLiteral("v%1").arg(at), row[at]});
     }
-    return {name() + QLatin1String(" (insert)"), QStringLiteral("insert into %1 (%2) values (%3)")
-                                                     .arg(table_, names.join(QLatin1String(", ")),
-                                                          placeholders.join(QLatin1String(", ")))};
+    // A screen that appends thousands of rows assigns the same columns each time.
+    if (assigned != insertedColumns_) {
+        insertedColumns_ = assigned;
+        QStringList names;
+        for (const QString &name : std::as_const(assigned)) {
+            names += columnInText(name);
+        }
+        insertText_ =
+            QStringLiteral("insert into %1 (%2) values (:%3)")
+                .arg(table_, names.join(QLatin1String(", ")), assigned.join(QLatin1String(", :")));
+    }
+    return {name() + QLatin1String(" (insert)"), insertText_};
 }
 
 Statement NamedQuery::updateStatement(Parameters *values) const {

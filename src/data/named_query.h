@@ -158,7 +158,7 @@ private:
     void setCurrent(int row);
     void beginPending(Pending::Kind kind, int row);
     void undo(const Pending &pending);
-    Statement insertStatement(Parameters *values) const;
+    Statement insertStatement(Parameters *values);
     Statement updateStatement(Parameters *values) const;
     Statement deleteStatement(Parameters *values) const;
     QString keyCondition(const Row &row, Parameters *values) const;
@@ -183,6 +183,8 @@ private:
     int current_ = -1;
     State state_ = State::Closed;
     std::optional<Pending> pending_;
+    QStringList insertedColumns_;
+    QString insertText_;
     Row beforeEdit_;
 };
 

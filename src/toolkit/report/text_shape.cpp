@@ -57,20 +57,32 @@ QStringList wrapped(const QString &paragraph, double width, const QFont &font, W
     return lines;
 }
 
-QStringList linesOf(const QString &text, double width, const QFont &font,
-                    const QFontMetricsF &metrics, Wrap wrap) {
+/// A line and its width in the units that fonts are measured in; each is measured once, since
+/// measuring is most of what laying a report out costs.
+struct MeasuredLine {
+    QString text;
+    double width;
+};
+
+std::vector<MeasuredLine> linesOf(const QString &text, double width, const QFont &font,
+                                  const QFontMetricsF &metrics, Wrap wrap) {
     QString clean = printable(text);
     if (wrap == Wrap::Elide) {
         clean.replace(QLatin1Char('\n'), QLatin1Char(' '));
-        return {metrics.elidedText(clean, Qt::ElideRight, width)};
+        const QString elided = metrics.elidedText(clean, Qt::ElideRight, width);
+        return {{elided, metrics.horizontalAdvance(elided)}};
     }
+    std::vector<MeasuredLine> lines;
     const QStringList paragraphs = clean.split(QLatin1Char('\n'));
-    if (wrap == Wrap::None)
-        return paragraphs;
-    QStringList lines;
     for (const QString &paragraph : paragraphs) {
-        const bool fits = metrics.horizontalAdvance(paragraph) <= width;
-        lines << (fits ? QStringList{paragraph} : wrapped(paragraph, width, font, wrap));
+        const double advance = metrics.horizontalAdvance(paragraph);
+        if (wrap == Wrap::None || advance <= width) {
+            lines.push_back({paragraph, advance});
+            continue;
+        }
+        for (const QString &line : wrapped(paragraph, width, font, wrap)) {
+            lines.push_back({line, metrics.horizontalAdvance(line)});
+        }
     }
     return lines;
 }
@@ -98,11 +110,11 @@ std::vector<TextLine> shapeText(const QString &text, double widthMm, const Style
     const double ascent = metrics.ascent() / textUnitsPerMm;
     const double spacing = metrics.lineSpacing() / textUnitsPerMm;
     double top = 0.0;
-    for (const QString &line :
+    for (const MeasuredLine &line :
          linesOf(text, widthMm * textUnitsPerMm, font, metrics, style.wrapping)) {
-        const double width = metrics.horizontalAdvance(line) / textUnitsPerMm;
+        const double width = line.width / textUnitsPerMm;
         result.push_back(
-            {line, QPointF(leftEnd(widthMm, width, style.align), top + ascent), width});
+            {line.text, QPointF(leftEnd(widthMm, width, style.align), top + ascent), width});
         top += spacing;
     }
     return result;
