@@ -3,6 +3,7 @@
 #include "data/dm_conexion.h"
 #include "data/dm_ingresos_caja.h"
 #include "data/dm_odonto.h"
+#include "data/firebird_connection.h"
 #include "tests/support/test_installation.h"
 
 namespace kaldo::test {
@@ -170,6 +171,27 @@ TEST_F(RoutinesTest, WhatANoteOpenedGoesWithItInItsCampusOnly) {
     EXPECT_EQ(rows("select campus, expediente from prestamo_exp where expediente='99999/26'"),
               other);
     EXPECT_EQ(rows("select folioad from control"), "8004") << "folios are not given back";
+}
+
+TEST(StatisticsTest, AnEmptyClinicKnowsHowSelectiveItsIndicesWillBe) {
+    TestInstallation files(TestInstallation::Content::Empty);
+    FirebirdConnection clinic(QStringLiteral("clinic"), {});
+    clinic.setDatabase(files.database("BD_ODONTOLOGIA.GDB"));
+    const auto tables = rowsOf(clinic,
+                               "select distinct trim(rdb$relation_name) from rdb$indices where "
+                               "rdb$system_flag = 0 and rdb$statistics > 0");
+    EXPECT_EQ(tables.size(), 19);
+    for (const QVariantList &table : tables) {
+        const QString name = table.first().toString();
+        EXPECT_EQ(valueOf(clinic, "select count(*) from " + name).toInt(), 0) << name.toStdString();
+        EXPECT_EQ(valueOf(clinic,
+                          "select count(*) from rdb$indices where rdb$relation_name = :t and not "
+                          "rdb$statistics > 0",
+                          {{"t", name}})
+                      .toInt(),
+                  0)
+            << name.toStdString();
+    }
 }
 
 TEST_F(RoutinesTest, TaxIsTakenOutOfWhatTheLineCharges) {

@@ -109,15 +109,21 @@ begin
     valor = 1;
     mensaje = '';
 
+    -- From the few charges of the dossier outwards, however the tables have grown.
     if (exists (select 1
                   from historicoodontologia h
-                  join registrovtas r on r.num_caja = h.num_caja and r.nota_vta = h.nota_vta
-                  join anticipos a on a.recibo_anticipo = r.recibo
-                                  and a.expediente = h.expediente
                  where h.expediente = :p_expediente
                    and h.codigo = :p_codigo
-                   and r.status <> 'CA'
-                   and a.saldo > 0)) then
+                   and exists (select 1
+                                 from registrovtas r
+                                where r.num_caja = h.num_caja
+                                  and r.nota_vta = h.nota_vta
+                                  and r.status <> 'CA'
+                                  and exists (select 1
+                                                from anticipos a
+                                               where a.recibo_anticipo = r.recibo
+                                                 and a.expediente = h.expediente
+                                                 and a.saldo > 0)))) then
     begin
         valor = 0;
         mensaje = 'El tratamiento ya está registrado y tiene saldo pendiente, registre un abono.';
