@@ -4,8 +4,7 @@
 #include "payments/receipt_printer.h"
 #include "payments/registration.h"
 #include "tests/payments/sample_note.h"
-#include "tests/support/test_doubles.h"
-#include "tests/support/test_installation.h"
+#include "tests/support/test_station.h"
 
 #include <QStringList>
 
@@ -18,21 +17,9 @@ inline constexpr char kFailed[] =
 
 /// A cash desk that registers notes, without a screen: modules over the databases of an
 /// installation, also of one that another process made.
-class Desk {
+class Desk : public TestStation {
 public:
-    explicit Desk(const QString &root, int numCaja = 1)
-        : installation(root),
-          ini(root + QStringLiteral("/Ini/kaldo.ini")),
-          conexion(installation, ini),
-          local(conexion),
-          odonto(conexion, session, options),
-          caja(conexion),
-          finanzas(conexion),
-          escolares(conexion),
-          context{installation, clock,    ini,   session, options, messages, printing,
-                  frame,        conexion, local, odonto,  caja,    finanzas, escolares} {
-        clock.set(QDateTime::currentDateTime());
-        session.ClienteSql = ini.value("Sql", "cliente");
+    explicit Desk(const QString &root, int numCaja = 1) : TestStation(root) {
         session.NumCaja = static_cast<qint16>(numCaja);
         session.Usuario = "cajero1";
         session.NombreCorto = "FERNANDA OCHOA";
@@ -40,8 +27,6 @@ public:
         session.Origen = "VAN";
         session.Origen2 = "VA";
         session.Centro = "01";
-        options.load(ini);
-        conexion.open();
     }
 
     /// A note over lines of the real price list: `keys` are the concepts' keys in their area.
@@ -77,21 +62,6 @@ public:
         return !registrar(draft, payment);
     }
 
-    Installation installation;
-    TestClock clock;
-    IniFile ini;
-    Session session;
-    Options options;
-    ScriptedMessages messages;
-    RecordingPrinting printing;
-    TestFrame frame;
-    DMConexion conexion;
-    DMLocal local;
-    DMOdonto odonto;
-    DMIngresosCaja caja;
-    DMFinanzas finanzas;
-    DMEscolares escolares;
-    Context context;
     ReceiptPrinter receipt{context};
     Registration registration{context, receipt};
 

@@ -13,6 +13,9 @@
 
 namespace kaldo::test {
 
+inline constexpr char kRegistered[] =
+    "La información ha sido registrada correctamente, presione cualquier tecla para continuar.";
+
 /// The payment note of a logged-in cashier, worked by key strokes alone.
 class PaymentNoteFixture : public ::testing::Test {
 protected:

@@ -10,11 +10,9 @@ namespace kaldo {
 namespace {
 
 using test::child;
+using test::kRegistered;
 using test::press;
 using test::typeText;
-
-constexpr char kRegistered[] =
-    "La información ha sido registrada correctamente, presione cualquier tecla para continuar.";
 
 /// A cashier with a queue: goes back, changes his mind, types ahead of the screen.
 class PaymentNoteHaste : public test::PaymentNoteFixture {

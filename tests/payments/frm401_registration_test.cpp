@@ -10,12 +10,10 @@ namespace {
 
 using test::child;
 using test::hold;
+using test::kRegistered;
 using test::picture;
 using test::press;
 using test::typeText;
-
-constexpr char kRegistered[] =
-    "La información ha sido registrada correctamente, presione cualquier tecla para continuar.";
 
 class PaymentNoteRegistration : public test::PaymentNoteFixture {
 protected:

@@ -6,29 +6,21 @@ namespace kaldo::test {
 
 TestStation::TestStation() : TestStation(std::make_shared<TestInstallation>()) {}
 
-TestStation::TestStation(std::shared_ptr<TestInstallation> files)
-    : installation(std::move(files)),
-      ini(installation->iniPath()),
-      conexion(installation->installation(), ini),
+TestStation::TestStation(std::shared_ptr<TestInstallation> kept) : TestStation(kept->root()) {
+    installation = std::move(kept);
+}
+
+TestStation::TestStation(const QString &root)
+    : files(root),
+      ini(root + QStringLiteral("/Ini/kaldo.ini")),
+      conexion(files, ini),
       local(conexion),
       odonto(conexion, session, options),
       caja(conexion),
       finanzas(conexion),
       escolares(conexion),
-      context{installation->installation(),
-              clock,
-              ini,
-              session,
-              options,
-              messages,
-              printing,
-              frame,
-              conexion,
-              local,
-              odonto,
-              caja,
-              finanzas,
-              escolares} {
+      context{files, clock,    ini,   session, options, messages, printing,
+              frame, conexion, local, odonto,  caja,    finanzas, escolares} {
     session.ClienteSql = ini.value("Sql", "cliente");
     session.AnioActual = static_cast<qint16>(clock.today().year());
     options.load(ini);

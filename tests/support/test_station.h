@@ -16,6 +16,8 @@ public:
     /// A second station over the same databases needs a server: an embedded file belongs to one
     /// process, but several connections of this process may share it.
     explicit TestStation(std::shared_ptr<TestInstallation> installation);
+    /// Over files that somebody else keeps, be it another process; `installation` is null.
+    explicit TestStation(const QString &root);
     ~TestStation();
 
     /// Fills the session from the rows of the user, as the login does. Throws where there is no
@@ -23,6 +25,7 @@ public:
     void logIn(const QString &usuario);
 
     std::shared_ptr<TestInstallation> installation;
+    Installation files;
     TestClock clock;
     IniFile ini;
     Session session;
