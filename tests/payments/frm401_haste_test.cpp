@@ -253,6 +253,30 @@ TEST_F(PaymentNoteHaste, ADeskWithoutANumberRegistersNothing) {
     EXPECT_EQ(lines().count(), 1);
 }
 
+TEST_F(PaymentNoteHaste, ADateOfBirthIsLookedAtBeforeTheNoteIsPaid) {
+    station.options.SaltarAdmision = true;
+    station.options.sector = Sector::Empresarial;
+    open();
+    startAdmission();
+    write({"peralta", "ruiz", "marta", "15/03/2010"});
+    press(Qt::Key_Space);
+    addLine("1");
+    tabTo("DateEdit2", false);
+    press(Qt::Key_A, Qt::ControlModifier);
+    typeText("15/03/1980");
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(text("Edad"), "44");
+    EXPECT_FALSE(formaPago.isVisible());
+    station.messages.expectInformation(
+        "La edad del paciente esta fuera de rango, vuelva a intentar.");
+    tabTo("DateEdit2", false);
+    press(Qt::Key_A, Qt::ControlModifier);
+    typeText("21/11/2024");
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(focused(), "DateEdit2");
+    EXPECT_FALSE(formaPago.isVisible());
+}
+
 TEST_F(PaymentNoteHaste, NamesOfAnySpellingArriveAsTyped) {
     open();
     int nota = 0;

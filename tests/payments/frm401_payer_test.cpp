@@ -180,6 +180,16 @@ TEST_F(PaymentNotePayer, AStudentIsLookedUpInBothRolls) {
     press(Qt::Key_Return);
     EXPECT_EQ(text("Alumno"), "BARRERA LIMON DIEGO");
     EXPECT_EQ(focused(), "AgregarRegistro");
+
+    // A number that is refused doesn't keep the name of the one before.
+    tabTo("Matricula", false);
+    press(Qt::Key_A, Qt::ControlModifier);
+    station.messages.expectInformation(
+        "El Alumno pertenece a la Facultad: FACULTAD DE IDIOMAS. Verifique la información con "
+        "Servicios Escolares.");
+    typeText("1100010");
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("Alumno"), "");
 }
 
 TEST_F(PaymentNotePayer, SeveralRowsOfAStudentAreChosenFrom) {
