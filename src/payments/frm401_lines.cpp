@@ -180,7 +180,7 @@ void FRM401::enterClave() {
     ClaveActual_ = key;
     ClaveRepetida_->setText(claveRepetidaText(key));
     ClaveRepetida_->open();
-    if (!ClaveRepetida_->isEmpty()) {
+    if (!ClaveRepetida_->isEmpty() || (!key.isValid() && conceptoRepetido())) {
         clearClave();
         messages().information(QStringLiteral(
             "La clave ya se encuentra registrada, presione cualquier tecla para continuar."));
@@ -190,6 +190,20 @@ void FRM401::enterClave() {
     takeConcept();
     grabar_->setEnabled(true);
     stayInColumn(QStringLiteral("DESCRIPCION"));
+}
+
+/// Another line charges the price list's current concept already: an empty "Clave" would take it a
+/// second time, and the note could not be registered.
+bool FRM401::conceptoRepetido() {
+    const NamedQuery &table = context().local.FBDetalleVtas;
+    const int codigo = precios_->integer(QStringLiteral("CODIGO"));
+    const QList<NoteLine> all = lines();
+    for (int row = 0; row < all.size(); ++row) {
+        if (row != table.position() && all.at(row).codigo == codigo) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// The line takes what the price list's current row says, also where "Clave" was left empty.

@@ -123,6 +123,7 @@ private:
     void enterClave();
     void enterCantidad();
     void enterPrecio();
+    bool conceptoRepetido();
     void takeConcept();
     bool claveVacia() const;
     bool conceptoPendiente() const;

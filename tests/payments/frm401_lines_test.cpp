@@ -106,6 +106,14 @@ TEST_F(PaymentNoteLines, AnEmptyKeyTakesTheCurrentConcept) {
     press(Qt::Key_Return);
     ASSERT_EQ(stored().size(), 1);
     EXPECT_FALSE(stored()[0][0].isValid());
+    // A second time the same concept could not be registered.
+    press(Qt::Key_Return);
+    station.messages.expectInformation(
+        "La clave ya se encuentra registrada, presione cualquier tecla para continuar.");
+    press(Qt::Key_Return);
+    EXPECT_EQ(column(), "CVE_PROD");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(stored().size(), 1);
     // And it can be taken away again.
     press(Qt::Key_Tab);
     station.messages.expectConfirmation("¿Desea borrar este concepto?", Answer::Yes);

@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
+#include <QWindow>
 
 #include "forms_sample.h"
 #include "tests/support/keys.h"
@@ -225,6 +226,43 @@ TEST(LeaveProtocol, OtherWindowsMenusAndClosingAreNoLeave) {
     notes.close();
     settle();
     EXPECT_EQ(notes.told(), "arrive2");
+}
+
+TEST(LeaveProtocol, ALetterWithAltLeavesTheFieldBeforeItPresses) {
+    QWidget form;
+    TextField *field = nullptr;
+    Button *button = nullptr;
+    QStringList told;
+    bool keep = false;
+    {
+        using namespace kaldo::form;
+        build(&form, column({text(&field, "field", "Campo").leave([&] {
+                                 told += "leave";
+                                 if (keep) {
+                                     moveFocus(field);
+                                 }
+                             }),
+                             form::button(&button, "button", "&Generar").clicked([&] {
+                                 told += "click";
+                             })}));
+    }
+    showActive(&form);
+    field->setFocus();
+    settle();
+    const auto altG = [&form] {
+        QTest::sendKeyEvent(QTest::Click, form.windowHandle(), Qt::Key_G, QStringLiteral("g"),
+                            Qt::AltModifier);
+        settle();
+    };
+    altG();
+    EXPECT_EQ(told, QStringList({"leave", "click"})) << "at once, in this order";
+    told.clear();
+    field->setFocus();
+    settle();
+    keep = true;
+    altG();
+    EXPECT_EQ(told, QStringList("leave")) << "a field that keeps the focus lets nothing be pressed";
+    EXPECT_TRUE(field->hasFocus());
 }
 
 TEST(EnterProtocol, StaysInsideTheChildWindow) {

@@ -57,6 +57,19 @@ void Button::setIconName(const QString &name) {
     }
 }
 
+bool Button::event(QEvent *event) {
+    if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
+        const QPointer<Button> self(this);
+        setFocus(Qt::ShortcutFocusReason);
+        FocusKeeper::get().settle();
+        if (self && (hasFocus() || focusPolicy() == Qt::NoFocus) && isEnabled()) {
+            click();
+        }
+        return true;
+    }
+    return QPushButton::event(event);
+}
+
 void Button::keyPressEvent(QKeyEvent *event) {
     if (!handleEnter(this, event)) {
         QPushButton::keyPressEvent(event);

@@ -11,7 +11,8 @@ namespace kaldo {
 QIcon iconNamed(const QString &name);
 
 /// A push button. Never a default of its dialog by itself; a fresh Enter or Space on it presses it,
-/// a repeated one does nothing.
+/// a repeated one does nothing. Alt and its letter take the focus to it first, so that the field
+/// that had it is left; if that keeps the focus, nothing is pressed.
 class Button : public QPushButton {
     Q_OBJECT
 
@@ -20,6 +21,7 @@ public:
     void setIconName(const QString &name);
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
