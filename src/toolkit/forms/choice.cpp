@@ -14,6 +14,8 @@
 #include <QTextDocument>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace kaldo {
 
 namespace {
@@ -48,10 +50,14 @@ void Choice::setItems(const QStringList &items) {
         clear();
         addItems(items);
     }
-    setCurrentIndex(-1);
+    setIndex(-1);
 }
 
 void Choice::setIndex(int index) {
+    // What was typed for the last choice is no beginning of the next one.
+    if (std::exchange(sought_, false)) {
+        view()->keyboardSearch(QString());
+    }
     pending_ = false;
     setCurrentIndex(index);
 }
@@ -105,6 +111,7 @@ bool Choice::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void Choice::keyPressEvent(QKeyEvent *event) {
+    sought_ = sought_ || (!event->text().isEmpty() && event->text().at(0).isPrint());
     const QScopedValueRollback<bool> keys(byKeys_, true);
     QComboBox::keyPressEvent(event);
 }

@@ -46,6 +46,7 @@ protected:
 private:
     bool open_ = false;
     bool byKeys_ = false;
+    bool sought_ = false;
     bool pending_ = false;
     bool readOnly_ = false;
 };
