@@ -35,7 +35,8 @@ Procedure &Procedure::set(const Parameters &values) {
     // Given in the routine's order, as they mostly are, a hundred values need no search.
     qsizetype expected = 0;
     for (const auto &[name, value] : values) {
-        if (expected < values_.size() && values_.at(expected).first == name) {
+        if (expected < values_.size() &&
+            values_.at(expected).first.compare(name, Qt::CaseInsensitive) == 0) {
             values_[expected].second = value;
         } else {
             set(name, value);
