@@ -25,7 +25,7 @@ bool command(const QStringList &arguments) {
 PrivateServer::PrivateServer(const QString &root) : root_(root) {
     for (int port = kFirstPort; port < kFirstPort + kPortsTried; ++port) {
         if (command({"start", root_, "--port", QString::number(port)})) {
-            host_ = QStringLiteral("localhost/%1:").arg(port);
+            host_ = QStringLiteral("127.0.0.1/%1:").arg(port);
             return;
         }
     }

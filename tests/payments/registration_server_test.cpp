@@ -32,7 +32,7 @@ public:
     bool start() {
         return script({"start", root_, "--port", QString::number(port_), "--registry"});
     }
-    QString address() const { return QStringLiteral("localhost/%1:").arg(port_); }
+    QString address() const { return QStringLiteral("127.0.0.1/%1:").arg(port_); }
     /// The server dies without a word to anyone.
     void die() const {
         QFile file(root_ + "/server/pid");
