@@ -140,11 +140,24 @@ void DataGrid::watchModel() {
         applyColumns();
         sumsChanged();
     };
+    // A query that is opened again with the same columns finds them as they are.
+    const auto rearrange = [this, arrange] {
+        QStringList fields;
+        for (int section = 0; section < sourceModel()->columnCount(); ++section) {
+            fields += sourceModel()->headerData(section, Qt::Horizontal).toString();
+        }
+        if (fields == state_->fields) {
+            sumsChanged();
+        } else {
+            state_->fields = fields;
+            arrange();
+        }
+    };
     state_->watches << connect(model, &QAbstractItemModel::dataChanged, this, changed)
                     << connect(model, &QAbstractItemModel::rowsInserted, this, changed)
                     << connect(model, &QAbstractItemModel::rowsRemoved, this, changed)
                     << connect(model, &QAbstractItemModel::layoutChanged, this, changed)
-                    << connect(model, &QAbstractItemModel::modelReset, this, arrange)
+                    << connect(model, &QAbstractItemModel::modelReset, this, rearrange)
                     << connect(model, &QAbstractItemModel::headerDataChanged, this, arrange)
                     << connect(model, &QAbstractItemModel::columnsInserted, this, arrange);
 }

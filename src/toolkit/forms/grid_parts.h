@@ -124,6 +124,7 @@ struct DataGrid::State {
     bool inGeometry = false;
     bool fieldMoved = false;
     bool arranged = false;
+    QStringList fields;  ///< of the model, when a reset last arranged the columns
     bool readOnly = false;
     bool sortable = false;
     int sortedBy = -1;
