@@ -20,11 +20,4 @@ QString completeDossierNumber(const QString &typed) {
     return number.rightJustified(kCounterDigits, QLatin1Char('0')) + QLatin1Char('/') + year;
 }
 
-QString formatDossierNumber(int counter, int year) {
-    const QString yearText = QString::number(year).left(4);
-    return cutToWidth(QString::number(counter).rightJustified(kCounterDigits, QLatin1Char('0')) +
-                          QLatin1Char('/') + yearText.mid(2, 2),
-                      kDossierNumberWidth);
-}
-
 }  // namespace kaldo

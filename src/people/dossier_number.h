@@ -11,8 +11,4 @@ inline constexpr int kDossierNumberWidth = 8;
 /// full width or more is left alone.
 QString completeDossierNumber(const QString &typed);
 
-/// The printed form of a counter: 123 in 2024 gives "00123/24". A counter of six digits loses the
-/// last character of the year to the width.
-QString formatDossierNumber(int counter, int year);
-
 }  // namespace kaldo

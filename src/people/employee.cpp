@@ -17,17 +17,6 @@ std::optional<int> patientTypeOfEmployee(int tipoEmpleado) {
     }
 }
 
-bool employeeFitsPatientType(int prestacion, int tipoEmpleado) {
-    switch (tipoEmpleado) {
-        case 1:
-            return (prestacion >= 2 && prestacion <= 4) || prestacion == 11;
-        case 2:
-            return (prestacion >= 5 && prestacion <= 7) || prestacion == 12;
-        default:
-            return tipoEmpleado == 3;
-    }
-}
-
 QString employeeLabel(int numEmpleado, const QString &nombre) {
     return QString::number(numEmpleado) + QLatin1Char(' ') + nombre;
 }

@@ -22,10 +22,6 @@ bool isCurrentEmployee(const std::optional<EmployeeRow> &row);
 /// Other types leave the patient type as it stands.
 std::optional<int> patientTypeOfEmployee(int tipoEmpleado);
 
-/// Whether an employee may open a dossier as this patient type: type 1 for 2, 3, 4 and 11, type 2
-/// for 5, 6, 7 and 12, and type 3 for any.
-bool employeeFitsPatientType(int prestacion, int tipoEmpleado);
-
 /// "Empleado:" shows number, blank, name; "Dependencia:" key, blank, description.
 QString employeeLabel(int numEmpleado, const QString &nombre);
 QString dependencyLabel(const QString &cveUnida, const QString &descripcion);

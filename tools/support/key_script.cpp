@@ -159,10 +159,6 @@ KeyScript &KeyScript::call(std::function<void()> action) {
     });
 }
 
-KeyScript &KeyScript::waitFor(const QString &what, std::function<bool()> condition) {
-    return add(what, std::move(condition));
-}
-
 void KeyScript::start() {
     waiting_.start();
     timer_.start();

@@ -39,8 +39,6 @@ public:
     KeyScript &picture(const QString &name);
     /// Runs something that isn't a key stroke: a note for the record, the start of a clock.
     KeyScript &call(std::function<void()> action);
-    /// Waits until the condition holds.
-    KeyScript &waitFor(const QString &what, std::function<bool()> condition);
 
     /// Where pictures go; none are saved without it.
     void setPictureFolder(const QString &folder) { folder_ = folder; }
