@@ -48,9 +48,29 @@ QTime hour(const IniFile &ini, const QString &section, const QString &key) {
 }
 
 QTime hourInParts(const IniFile &ini, const QString &section) {
-    return QTime(numberOr(0, ini, section, QStringLiteral("h")),
-                 numberOr(0, ini, section, QStringLiteral("m")),
-                 numberOr(0, ini, section, QStringLiteral("s")));
+    const QTime time(numberOr(0, ini, section, QStringLiteral("h")),
+                     numberOr(0, ini, section, QStringLiteral("m")),
+                     numberOr(0, ini, section, QStringLiteral("s")));
+    if (!time.isValid()) {
+        const QString text = ini.value(section, QStringLiteral("h")) + u':' +
+                             ini.value(section, QStringLiteral("m")) + u':' +
+                             ini.value(section, QStringLiteral("s"));
+        refuse(text, QStringLiteral("hora"), section, QStringLiteral("h, m, s"));
+    }
+    return time;
+}
+
+void writeYes(IniFile &ini, const QString &section, const QString &key, bool yes) {
+    ini.setValue(section, key, yes ? QStringLiteral("S") : QStringLiteral("N"));
+}
+
+/// Whole, and in its parts by their places in the text; no hour leaves all four empty.
+void writeHour(IniFile &ini, const QString &section, const QTime &time) {
+    const QString text = time.isValid() ? time.toString(QStringLiteral("HH:mm:ss")) : QString();
+    ini.setValue(section, QStringLiteral("hora"), text);
+    ini.setValue(section, QStringLiteral("h"), text.mid(0, 2));
+    ini.setValue(section, QStringLiteral("m"), text.mid(3, 2));
+    ini.setValue(section, QStringLiteral("s"), text.mid(6, 2));
 }
 
 }  // namespace
@@ -67,9 +87,6 @@ void Options::loadGeneral(const IniFile &ini) {
     NombreCliente = ini.value(kClient, QStringLiteral("cliente"));
     NombreInstitucion = ini.value(kClient, QStringLiteral("nombre"));
     Iniciales = ini.value(kClient, QStringLiteral("iniciales"));
-    if (Iniciales.isEmpty()) {
-        Iniciales = NombreInstitucion;
-    }
     Facultad = ini.value(kClient, QStringLiteral("facultad"));
     Clinica = ini.value(kClient, QStringLiteral("clinica"));
     Usuario = ini.value(kUser, QStringLiteral("user"));
@@ -150,6 +167,99 @@ void Options::loadPrints(const IniFile &ini) {
     PreliminarHojas = ini.isYes(kPrints, QStringLiteral("preliminar_hojas"));
     ImgEmpresa = ini.value(kClient, QStringLiteral("img_empresa"));
     ImgEmpresa1 = ini.value(kClient, QStringLiteral("img_empresa1"));
+}
+
+void Options::save(IniFile &ini) const {
+    saveGeneral(ini);
+    saveSystem(ini);
+    saveAdmissions(ini);
+    saveDossiers(ini);
+    savePrints(ini);
+}
+
+void Options::saveGeneral(IniFile &ini) const {
+    ini.setValue(kClient, QStringLiteral("cliente"), NombreCliente);
+    ini.setValue(kClient, QStringLiteral("nombre"), NombreInstitucion);
+    ini.setValue(kClient, QStringLiteral("iniciales"), Iniciales);
+    ini.setValue(kClient, QStringLiteral("facultad"), Facultad);
+    ini.setValue(kClient, QStringLiteral("clinica"), Clinica);
+    ini.setValue(kUser, QStringLiteral("user"), Usuario);
+    ini.setValue(kUser, QStringLiteral("ciudad"), Ciudad);
+    ini.setValue(kUser, QStringLiteral("estado"), QString::number(Estado + 1));
+    if (CambiarPass) {
+        ini.setValue(kUser, QStringLiteral("cambiar_pass"), QStringLiteral("S"));
+    }
+    ini.setValue(QStringLiteral("Ayuda"), QStringLiteral("Ayuda"), ArchivoAyuda);
+    if (SkinName != QLatin1String("Windows")) {
+        ini.setValue(QStringLiteral("Sistema"), QStringLiteral("skinname"), SkinName);
+        ini.setValue(QStringLiteral("Ambiente"), QStringLiteral("skin"), Skin);
+    }
+    if (sector != Sector::None) {
+        ini.setValue(kClient, QStringLiteral("sector"),
+                     QString::number(static_cast<int>(sector) + 1));
+    }
+    ini.setValue(kClient, QStringLiteral("rfc"), Rfc);
+    ini.setValue(kClient, QStringLiteral("direccion"), Direccion);
+    ini.setValue(kClient, QStringLiteral("colonia"), Colonia);
+    ini.setValue(kClient, QStringLiteral("ciudad"), CiudadFiscal);
+    ini.setValue(kClient, QStringLiteral("estado"), QString::number(EstadoFiscal));
+    ini.setValue(kClient, QStringLiteral("pais"), Pais);
+    ini.setValue(kClient, QStringLiteral("cp"), CodigoPostal);
+    ini.setValue(kClient, QStringLiteral("tel"), Telefono);
+    ini.setValue(kClient, QStringLiteral("correoe"), Correo);
+}
+
+void Options::saveSystem(IniFile &ini) const {
+    if (ApagarSistema) {
+        ini.setValue(kMachine, QStringLiteral("apagar"), QStringLiteral("S"));
+    }
+    writeHour(ini, kMachine, HoraApagar);
+    writeYes(ini, kMachine, QStringLiteral("actualiza"), BuscarActualizaciones);
+    writeYes(ini, kMachine, QStringLiteral("estadisticas"), GenerarEstadisticas);
+    writeYes(ini, kAccounting, QStringLiteral("gubernamental"), ContabilidadGubernamental);
+    writeYes(ini, kAccounting, QStringLiteral("polizas"), GenerarPolizas);
+    writeYes(ini, kAccounting, QStringLiteral("cortebanca"), CortesBancarios);
+    ini.setValue(kClient, QStringLiteral("fondo"), Fondo);
+    ini.setValue(kClient, QStringLiteral("ftefin"), FuenteFinanciamiento);
+    // Twice: the source of financing stands under this key for the time of one write.
+    ini.setValue(kClient, QStringLiteral("maysucula"), FuenteFinanciamiento);
+    writeYes(ini, kClient, QStringLiteral("maysucula"), TitulosMayusculas);
+}
+
+void Options::saveAdmissions(IniFile &ini) const {
+    ini.setValue(kAdmissions, QStringLiteral("fbusqueda"), FechaBusquedaAdmisiones);
+    ini.setValue(kAdmissions, QStringLiteral("dias"), QString::number(DiasBusqueda));
+    writeYes(ini, kAdmissions, QStringLiteral("canalizado"), AlumnoCanalizado);
+    ini.setValue(kAdmissions, QStringLiteral("consentimiento"),
+                 Consentimiento < 0 ? QString() : QString::number(Consentimiento));
+    writeYes(ini, kAdmissions, QStringLiteral("buscarxcd"), AdmisionesOtrosCentros);
+    writeYes(ini, kAdmissions, QStringLiteral("saltar_adm"), SaltarAdmision);
+    writeYes(ini, kAdmissions, QStringLiteral("hoy"), AdmisionesHoy);
+    writeYes(ini, kAdmissions, QStringLiteral("exp"), AdmisionesConExpediente);
+    writeYes(ini, kAdmissions, QStringLiteral("aut"), AdmisionesAutorizadas);
+}
+
+void Options::saveDossiers(IniFile &ini) const {
+    ini.setValue(kDossiers, QStringLiteral("fbusqueda"), FechaBusquedaExpedientes);
+    writeYes(ini, kDossiers, QStringLiteral("guardar"), GenerarExpediente);
+    writeYes(ini, kDossiers, QStringLiteral("saldo"), CapturarSaldos);
+    writeYes(ini, kDossiers, QStringLiteral("verexp"), ExpedientesOtrosCentros);
+    writeYes(ini, kDossiers, QStringLiteral("validaedad"), ValidarEdad);
+    writeYes(ini, kDossiers, QStringLiteral("prestamo"), ActivarPrestamo);
+    ini.setValue(kDossiers, QStringLiteral("expedientes"), QString::number(ExpedientesPorAlumno));
+    writeYes(ini, kDossiers, QStringLiteral("sysanterior"), SistemaAnterior);
+    writeYes(ini, kDossiers, QStringLiteral("actualizar"), ActualizarLista);
+    writeHour(ini, kDossiers, IntervaloLista);
+    writeYes(ini, kDossiers, QStringLiteral("controlexp"), ExpedienteUniversal);
+}
+
+void Options::savePrints(IniFile &ini) const {
+    ini.setValue(kPrints, QStringLiteral("duplicado"), QString::number(SegundosDuplicado));
+    writeYes(ini, kPrints, QStringLiteral("des_duplicado"), DesactivarDuplicados);
+    writeYes(ini, kPrints, QStringLiteral("preliminar"), PreliminarNotas);
+    writeYes(ini, kPrints, QStringLiteral("preliminar_hojas"), PreliminarHojas);
+    ini.setValue(kClient, QStringLiteral("img_empresa"), ImgEmpresa);
+    ini.setValue(kClient, QStringLiteral("img_empresa1"), ImgEmpresa1);
 }
 
 QDate Options::fechaExpedientes() const {

@@ -16,7 +16,7 @@ struct Options {
     // [Cliente]
     QString NombreCliente;      ///< cliente: client code
     QString NombreInstitucion;  ///< nombre: "Nombre del Cliente" of the reports
-    QString Iniciales;          ///< iniciales; nombre stands in its place when empty
+    QString Iniciales;          ///< iniciales: see encabezado()
     QString Facultad;           ///< facultad: "Facultad o Clinica", second heading of the reports
     QString Clinica;            ///< clinica: "Nombre de la Clinica"
     QString ImgEmpresa;         ///< img_empresa: path of the reports' logo
@@ -89,6 +89,16 @@ struct Options {
     /// rest keeps what it held.
     void load(const IniFile &ini);
 
+    /// Writes every key in the order of the panel's pages. A key whose text can't be written throws
+    /// (std::runtime_error, Spanish text); those before it are written. Kept as the files in use
+    /// have them: the closing hour and the change of passwords are only ever switched on, the help
+    /// file and the policies go to other keys than load() reads, a sector or a colour scheme that
+    /// is none of the list leaves its keys alone.
+    void save(IniFile &ini) const;
+
+    /// The short name of the institution; its name stands in where it has none.
+    QString encabezado() const { return Iniciales.isEmpty() ? NombreInstitucion : Iniciales; }
+
     /// "Fecha Inicial de Busqueda." of the dossiers as a date; an invalid date where it is none.
     QDate fechaExpedientes() const;
 
@@ -98,6 +108,11 @@ private:
     void loadAdmissions(const IniFile &ini);
     void loadDossiers(const IniFile &ini);
     void loadPrints(const IniFile &ini);
+    void saveGeneral(IniFile &ini) const;
+    void saveSystem(IniFile &ini) const;
+    void saveAdmissions(IniFile &ini) const;
+    void saveDossiers(IniFile &ini) const;
+    void savePrints(IniFile &ini) const;
 };
 
 /// A date as the options keep it: dd/MM/yyyy.

@@ -58,6 +58,27 @@ RuntimeText claveRepetidaText(const QVariant &cveProd) {
         .bind(QStringLiteral("cve_prod"), cveProd);
 }
 
+RuntimeText firebirdDuplicadoText(const QVariant &noidx) {
+    return RuntimeText()
+        .line(QStringLiteral("Select * from firebid"))
+        .line(QStringLiteral("Where noindx=:noidx"))
+        .bind(QStringLiteral("noidx"), noidx);
+}
+
+RuntimeText informixDuplicadoText(const QVariant &noidx) {
+    return RuntimeText()
+        .line(QStringLiteral("Select * from Informix"))
+        .line(QStringLiteral("Where noindx=:noidx"))
+        .bind(QStringLiteral("noidx"), noidx);
+}
+
+RuntimeText recibosDuplicadoText(const QVariant &recibo) {
+    return RuntimeText()
+        .line(QStringLiteral("Select * from recibos"))
+        .line(QStringLiteral("Where recibo=:recibo"))
+        .bind(QStringLiteral("recibo"), recibo);
+}
+
 QList<RuntimeText> borrarCorteTexts(int caja, const QDate &fecha) {
     // With parameters the desk is tested by prefix: desk 1 also empties desks 10 to 19.
     const QString desk = QStringLiteral("where num_caja STARTING WITH :caja");

@@ -23,6 +23,12 @@ RuntimeText listaPreciosFaceText(int tipoProd, bool child);
 /// The lines of the working table with this key.
 RuntimeText claveRepetidaText(const QVariant &cveProd);
 
+/// The duplicate checks of the station's registry. That of the two lists of databases names a table
+/// and a column that don't exist and fails with the database's own message.
+RuntimeText firebirdDuplicadoText(const QVariant &noidx);
+RuntimeText informixDuplicadoText(const QVariant &noidx);
+RuntimeText recibosDuplicadoText(const QVariant &recibo);
+
 /// `BorrarCorte`: the three deletes that empty the work tables of a cut, in their order.
 QList<RuntimeText> borrarCorteTexts(int caja, const QDate &fecha);
 

@@ -1,4 +1,7 @@
 #include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QMap>
 #include <QScopeGuard>
 
 #include <array>
@@ -64,7 +67,8 @@ TEST(OptionsTest, ReadsEveryKeyAndStopsAtTheFirstThatIsNoNumber) {
     files.setIni("Expedientes", "guardar", "N");
     Options other;
     other.load(IniFile(files.iniPath()));
-    EXPECT_EQ(other.Iniciales, other.NombreInstitucion);
+    EXPECT_EQ(other.Iniciales, "");
+    EXPECT_EQ(other.encabezado(), other.NombreInstitucion);
     EXPECT_EQ(other.sector, Sector::None);
     EXPECT_EQ(other.Estado, -1);
     EXPECT_EQ(other.Consentimiento, -1);
@@ -103,6 +107,7 @@ TEST(OptionsTest, BadNumbersAndDatesAreRefusedAndEmptyOnesAreNone) {
         {"Expedientes", "fbusqueda", "31/09/2024"},
         {"Expedientes", "expedientes", ""},
         {"Expedientes", "h", "un"},
+        {"Expedientes", "m", "75"},
         {"Impresiones", "duplicado", ""},
     };
     for (const auto &[section, key, value] : bad) {
@@ -112,6 +117,92 @@ TEST(OptionsTest, BadNumbersAndDatesAreRefusedAndEmptyOnesAreNone) {
     EXPECT_EQ(load("Usuario", "estado", "").Estado, -1);
     EXPECT_FALSE(load("Expedientes", "fbusqueda", "").fechaExpedientes().isValid());
     EXPECT_FALSE(load("Equipo", "hora", "").HoraApagar.isValid());
+}
+
+/// Every line that is a key, as "section/key" in small letters and its value.
+QMap<QString, QString> keysOf(const QString &path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QMap<QString, QString> keys;
+    QString section;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        if (line.startsWith(u'[')) {
+            section = line.mid(1, line.indexOf(u']') - 1);
+        } else if (const auto at = line.indexOf(u'='); at > 0) {
+            keys[(section + u'/' + line.left(at)).toLower()] = line.mid(at + 1);
+        }
+    }
+    return keys;
+}
+
+TEST(OptionsTest, SavingWhatWasReadChangesNoKeyButTheHours) {
+    TestInstallation files;
+    const QMap<QString, QString> before = keysOf(files.iniPath());
+    Options options;
+    IniFile ini(files.iniPath());
+    options.load(ini);
+    options.save(ini);
+    QMap<QString, QString> after = keysOf(files.iniPath());
+    for (auto key = before.begin(); key != before.end(); ++key) {
+        EXPECT_EQ(after.take(key.key()), key.value()) << qPrintable(key.key());
+    }
+    EXPECT_EQ(after.keys(),
+              QStringList({"ayuda/ayuda", "equipo/h", "equipo/hora", "equipo/m", "equipo/s"}))
+        << "keys that the file lacked";
+}
+
+TEST(OptionsTest, SavedOptionsComeBackButForThoseThatAreReadElsewhere) {
+    TestInstallation files;
+    IniFile ini(files.iniPath());
+    Options options;
+    options.load(ini);
+    options.HoraApagar = QTime(21, 5, 9);
+    options.ApagarSistema = true;
+    options.GenerarPolizas = true;
+    options.ArchivoAyuda = "C:\\KALDO\\HelpFile\\otro.chm";
+    options.TitulosMayusculas = true;
+    options.Estado = 4;
+    options.EstadoFiscal = 4;
+    options.Consentimiento = -1;
+    options.IntervaloLista = QTime(1, 2, 3);
+    options.save(ini);
+    EXPECT_EQ(ini.value("Equipo", "hora"), "21:05:09");
+    EXPECT_EQ(ini.value("Equipo", "h") + ini.value("Equipo", "m") + ini.value("Equipo", "s"),
+              "210509");
+    EXPECT_EQ(ini.value("Usuario", "estado"), "5");
+    EXPECT_EQ(ini.value("Cliente", "estado"), "4");
+    EXPECT_EQ(ini.value("Cliente", "maysucula"), "S");
+    EXPECT_EQ(ini.value("Ayuda", "Ayuda"), options.ArchivoAyuda);
+    EXPECT_EQ(ini.value("Contabilidad", "polizas"), "S");
+
+    Options other;
+    other.load(IniFile(files.iniPath()));
+    EXPECT_EQ(other.HoraApagar, options.HoraApagar);
+    EXPECT_EQ(other.IntervaloLista, options.IntervaloLista);
+    EXPECT_EQ(other.Consentimiento, -1);
+    EXPECT_EQ(other.Estado, 4);
+    EXPECT_FALSE(other.GenerarPolizas) << "lives until the next start";
+    EXPECT_NE(other.ArchivoAyuda, options.ArchivoAyuda);
+
+    options.ApagarSistema = false;
+    options.CambiarPass = false;
+    options.sector = Sector::None;
+    options.save(ini);
+    EXPECT_EQ(ini.value("Equipo", "apagar"), "S") << "never switched off from here";
+    EXPECT_EQ(ini.value("Usuario", "cambiar_pass"), "S");
+    EXPECT_EQ(ini.value("Cliente", "sector"), "2");
+}
+
+TEST(OptionsTest, FileThatCannotBeWrittenIsTold) {
+    TestInstallation files;
+    IniFile ini(files.iniPath());
+    Options options;
+    options.load(ini);
+    const QString folder = files.root() + "/Ini";
+    ASSERT_TRUE(QDir().rename(folder, folder + "_"));
+    QFile blocker(folder);
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    EXPECT_THROW(options.save(ini), std::runtime_error);
 }
 
 }  // namespace
