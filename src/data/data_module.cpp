@@ -8,6 +8,17 @@ std::unique_ptr<NamedQuery> DataModule::newQuery(const char *name) const {
     return query;
 }
 
+bool DataModule::existe(const RuntimeText &text) const {
+    const std::unique_ptr<NamedQuery> query = newQuery("Qry000");
+    query->setText(text);
+    query->open();
+    return !query->isEmpty();
+}
+
+void DataModule::ejecutar(const char *name, const RuntimeText &text) const {
+    execute(*connection_, QString::fromUtf8(name), text);
+}
+
 void DataModule::bindAll(std::initializer_list<NamedQuery *> queries) {
     for (NamedQuery *query : queries) {
         query->bindTo(*connection_);

@@ -25,6 +25,10 @@ public:
 
     /// A query without a text, for a screen that builds its text at run time. The screen owns it.
     std::unique_ptr<NamedQuery> newQuery(const char *name) const;
+    /// Runs a uniqueness test: true if the text delivers a row.
+    bool existe(const RuntimeText &text) const;
+    /// Runs a text that delivers nothing; committed on return.
+    void ejecutar(const char *name, const RuntimeText &text) const;
 
 protected:
     DataModule(QString name, Connection &connection)

@@ -11,6 +11,26 @@ public:
     explicit DMFinanzas(DMConexion &connections);
 
     NamedQuery UsuarioID;
+    NamedQuery cg_usuario;
+
+    // Chart of accounts: each level as the matrix of allowed combinations offers it
+    NamedQuery cgenero;
+    NamedQuery cgrupo;
+    NamedQuery crubro;
+    NamedQuery ccuenta;
+    NamedQuery csubcta;
+    NamedQuery csubsubcta;
+
+    // Programmes, taxes, banks
+    NamedQuery Programas;
+    NamedQuery Programas1;
+    NamedQuery tipodeiva;
+    NamedQuery clasificacioniva;
+    NamedQuery Bancos;
+    NamedQuery BancosMN;
+    NamedQuery BancosDL;
+    NamedQuery BancoPrograma;
+
     Procedure inserta_vw_recibopago;
     Procedure BorrarPago;
 };

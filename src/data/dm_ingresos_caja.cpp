@@ -8,9 +8,11 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
           {"DatosCaja", "select * from datoscaja where campus=:campus", "datoscaja", "num_caja"}),
       DatosCaja1(
           {"DatosCaja1", "select * from datoscaja where num_caja=:caja", "datoscaja", "num_caja"}),
+      DatosCaja2({"DatosCaja2", "select * from datoscaja order by num_caja"}),
       DatosCajaUsuario({"DatosCajaUsuario", "select * from datoscaja where num_caja=:caja"}),
       TipoCambio({"TipoCambio", "SELECT tipo_cam, llave FROM Control"}),
       CambiaPass("CambiaPass", "update controlusuarios set pass=:pass where usuario=:usuario"),
+      TipoCam("TipoCam", "update  control set tipo_cam=:tipo where llave='1'"),
       UDatosCaja("UDatosCaja", "update datoscaja set nota_vta=:nota where num_caja=:caja"),
       FolioNota("FolioNota", "update datoscaja set nota_vta=:nota where num_caja=:caja"),
       ListaPrecios({"ListaPrecios",
@@ -119,6 +121,7 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
                             "usr, caja, fecha") {
     bindAll({&DatosCaja,
              &DatosCaja1,
+             &DatosCaja2,
              &DatosCajaUsuario,
              &TipoCambio,
              &ListaPrecios,
@@ -147,7 +150,7 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
              &CorteBancario,
              &PagoAnticipo,
              &SaldoPaciente});
-    bindAll({&CambiaPass, &UDatosCaja, &FolioNota});
+    bindAll({&CambiaPass, &TipoCam, &UDatosCaja, &FolioNota});
     bindAll({&registra_pago_odontologia_p, &sp_registrametodopago, &spinsdetalle,
              &registra_historicodontologia_p, &registraiva, &BorrarDetalleVtas, &SP550,
              &CompletaCorteBancario});

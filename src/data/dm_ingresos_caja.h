@@ -14,9 +14,11 @@ public:
     // Desk and rate
     NamedQuery DatosCaja;
     NamedQuery DatosCaja1;
+    NamedQuery DatosCaja2;
     NamedQuery DatosCajaUsuario;  ///< the desk of the user who logs in; DatosCaja1 stays closed
     NamedQuery TipoCambio;
     Command CambiaPass;
+    Command TipoCam;
     Command UDatosCaja;
     Command FolioNota;
 

@@ -26,24 +26,106 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
       ControlUsuarios2({"ControlUsuarios2",
                         "select * from controlusuarios where  num_caja=:caja and turno=:turno and "
                         "acceso='CA'"}),
+      Usuarios_Mant({"Usuarios_Mant", "select * from usuarios_m where usuario=:usuario",
+                     "usuarios_m", "usuario"}),
       Usuarios_Mant1({"Usuarios_Mant1", "select * from usuarios_m where usuario=:usuario"}),
       CambiaPass({"CambiaPass", "update controlusuarios set pass=:pass where usuario=:usuario"}),
       Control({"Control", "select * from control where llave=1", "control", "llave"}),
-      ControlExpediente(
-          {"ControlExpediente", "select * from controlexpedientes where campus=:campus"}),
+      ControlExpediente({"ControlExpediente",
+                         "select * from controlexpedientes where campus=:campus",
+                         "controlexpedientes", "campus"}),
       ControlExpedientes(
           {"ControlExpedientes", "select * from controlexpedientes where campus=:campus"}),
+      TipoCambio(
+          {"TipoCambio", "select * from TipoCambio Order by consec desc", "tipocambio", "consec"}),
       TipoCambio1({"TipoCambio1", "select * from TipoCambio Order by consec desc"}),
+      est_caja({"est_caja", "select * from KDEST_CAJA(:p_caja, :p_fecha)"}),
+      CtroAtencion({"CtroAtencion", "select * from ctroatencion Where ciudad=:cd order by centro",
+                    "ctroatencion", "centro"}),
       CtroAtencion1(
           {"CtroAtencion1", "select * from ctroatencion Where ciudad=:cd order by centro"}),
+      CtroAtencion3({"CtroAtencion3", "select distinct(ciudad) from ctroatencion order by ciudad"}),
       CtroAtencion4({"CtroAtencion4", "select * from ctroatencion Where centro=:centro"}),
       CtroAtencionF({"CtroAtencionF", "select * from ctroatencion"}),
-      est_caja({"est_caja", "select * from KDEST_CAJA(:p_caja, :p_fecha)"}),
-      serviciosxctros(
-          {"serviciosxctros", "select * from KDSERVICIOSXCTROS(:P_CENTRO, :P_DIRIGIDO)"}),
+      AreaVenta({"AreaVenta", "select * from areaventa where ciudad=:cd order by tipo_prod",
+                 "areaventa", "tipo_prod"}),
+      AreaVenta2({"AreaVenta2", "select * from areaventa where ciudad=:cd order by tipo_prod"}),
+      AreaVenta3({"AreaVenta3", "select * from areaventa where ciudad=:cd order by tipo_prod",
+                  "areaventa", "tipo_prod"}),
+      AreaVentaT({"AreaVentaT", "select max(tipo_prod) from areaventa"}),
+      ConsultaAreas(
+          {"ConsultaAreas",
+           "select a.tipo_prod,a.descr from areaventa a where not exists (select s.tipo_prod from "
+           "serviciosxctro s where s.tipo_prod=a.tipo_prod and s.centro=:centro) and "
+           "a.ciudad=:cd order by a.tipo_prod"}),
+      ServxCtro({"ServxCtro",
+                 "select s.centro,s.tipo_prod,a.descr from serviciosxctro s, areaventa a where "
+                 "s.tipo_prod=a.tipo_prod And s.centro=:cent",
+                 "serviciosxctro", "centro,tipo_prod"}),
+      ServxCtro1({"ServxCtro1", "select * from serviciosxctro where centro=:ctro", "serviciosxctro",
+                  "centro,tipo_prod"}),
+      ServxCtro2({"ServxCtro2", "select * from serviciosxctro where tipo_prod=:tipo"}),
+      ServxCtroR({"ServxCtroR",
+                  "SELECT SERVICIOSXCTRO.CENTRO, SERVICIOSXCTRO.TIPO_PROD, CTROATENCION.DESCR, "
+                  "AREAVENTA.DESCR, CTROATENCION.CIUDAD FROM SERVICIOSXCTRO INNER JOIN "
+                  "CTROATENCION ON (SERVICIOSXCTRO.CENTRO = CTROATENCION.CENTRO) INNER JOIN "
+                  "AREAVENTA ON (SERVICIOSXCTRO.TIPO_PROD = AREAVENTA.TIPO_PROD) Where "
+                  "CTROATENCION.CIUDAD=:cd ORDER BY SERVICIOSXCTRO.CENTRO, "
+                  "SERVICIOSXCTRO.TIPO_PROD"}),
       AreaAtencion({"AreaAtencion",
                     "select * from areatencion where centro=:centro and tipo_prod=:tipo order by "
-                    "centro,tipo_prod,area"}),
+                    "centro,tipo_prod,area",
+                    "areatencion", "centro,tipo_prod,area"}),
+      AreaAtencionR({"AreaAtencionR",
+                     "select a.centro,a.tipo_prod,a.area,a.descr,a.prog,a.tipo_serv,"
+                     "a.responsable,c.ciudad,c.descr from areatencion a, ctroatencion c where "
+                     "c.ciudad=:cd and a.centro=c.centro order by a.centro,a.tipo_prod,a.area"}),
+      Prestaciones({"Prestaciones", "select * from prestaciones", "prestaciones", "prestacion"}),
+      ClasifServicios({"ClasifServicios",
+                       "SELECT * FROM Clasifservicios where ciudad=:cd and tipo_prod=:tipo_prod",
+                       "clasifservicios", "ciudad,tipo_prod"}),
+      ClasifServiciosR(
+          {"ClasifServiciosR",
+           "SELECT CTROATENCION.CENTRO, CLASIFSERVICIOS.EDADMIN, CLASIFSERVICIOS.EDADMAX, "
+           "CLASIFSERVICIOS.REQUIERE_EDAD, CLASIFSERVICIOS.APLICADESC, "
+           "CLASIFSERVICIOS.APLICA_ANTICIPO, CLASIFSERVICIOS.CIUDAD, PRESTACIONXSERV.PRESTACION, "
+           "CLASIFSERVICIOS.TIPO_PROD, AREAVENTA.DESCR, PRESTACIONES.DESCRIPCION, "
+           "CTROATENCION.DESCR, PRESTACIONXSERV.PORCENT FROM CLASIFSERVICIOS INNER JOIN "
+           "CTROATENCION ON (CTROATENCION.CIUDAD = CLASIFSERVICIOS.CIUDAD) LEFT OUTER JOIN "
+           "PRESTACIONXSERV ON (CTROATENCION.CENTRO = PRESTACIONXSERV.CENTRO) AND "
+           "(CLASIFSERVICIOS.TIPO_PROD = PRESTACIONXSERV.TIPO_PROD) INNER JOIN AREAVENTA ON "
+           "(CLASIFSERVICIOS.TIPO_PROD = AREAVENTA.TIPO_PROD) LEFT OUTER JOIN PRESTACIONES ON "
+           "(PRESTACIONXSERV.PRESTACION = PRESTACIONES.PRESTACION) Where "
+           "CLASIFSERVICIOS.CIUDAD=:cd "
+           "ORDER BY CTROATENCION.CENTRO, CLASIFSERVICIOS.TIPO_PROD, "
+           "PRESTACIONXSERV.PRESTACION"}),
+      Prestacionxserv({"Prestacionxserv",
+                       "SELECT centro,tipo_prod, prestacion, porcent,edad FROM Prestacionxserv "
+                       "Where centro=:centro and tipo_prod=:tipo Order by tipo_prod, prestacion",
+                       "prestacionxserv", "centro,tipo_prod,prestacion"}),
+      LabExterno({"LabExterno", "select * from labexternos where campus=:campus", "labexternos",
+                  "subsubcta"}),
+      Listaprecios(
+          {"Listaprecios",
+           "SELECT AREAVENTA.TIPO_PROD, AREAVENTA.DESCR, LISTAPRECIOS.CODIGO, "
+           "LISTAPRECIOS.CVE_PROD, LISTAPRECIOS.DESCR, LISTAPRECIOS.UNIMED, "
+           "LISTAPRECIOS.MENUDEO, LISTAPRECIOS.PROG, LISTAPRECIOS.FECHA_MOV, "
+           "LISTAPRECIOS.SUBSUBCTA, LISTAPRECIOS.NOMENCLATURA, LISTAPRECIOS.TIPODEIVA, "
+           "LISTAPRECIOS.PORCENTAJEIVA, LISTAPRECIOS.CLASIFICACIONIVA, LISTAPRECIOS.VIGENTE, "
+           "LISTAPRECIOS.CLAVEPRODSERV FROM AREAVENTA INNER JOIN LISTAPRECIOS ON "
+           "(AREAVENTA.TIPO_PROD = LISTAPRECIOS.TIPO_PROD) Where AREAVENTA.CIUDAD=:cd ORDER BY "
+           "AREAVENTA.DESCR"}),
+      Listaprecios1({"Listaprecios1", "select * from LISTAPRECIOS where tipo_prod=:tipoprod",
+                     "listaprecios", "codigo"}),
+      Listaprecios3({"Listaprecios3", "select * from LISTAPRECIOS where tipo_prod=:tipoprod",
+                     "listaprecios", "codigo"}),
+      UMedida({"UMedida", "select * from unidadmedida order by descr"}),
+      TipoForma({"TipoForma", "select * from tipo_formapago order by idtipo", "tipo_formapago",
+                 "idtipo"}),
+      Metodopagocfdi({"Metodopagocfdi", "select * from metodopagocfdi order by clave",
+                      "metodopagocfdi", "clave"}),
+      serviciosxctros(
+          {"serviciosxctros", "select * from KDSERVICIOSXCTROS(:P_CENTRO, :P_DIRIGIDO)"}),
       CargarExp({"CargarExp", "select * from KDCARGAREXP(:CENT, :CD, :FECHA, :TIPO, :BAN)"}),
       AdmisionNota(
           {"AdmisionNota", "select * from admision where num_caja=:caja and nota_vta=:nota"}),
@@ -63,9 +145,16 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
       BorrarExpediente("BorrarExpediente", "KDBORRAREXPEDIENTE", "num_caja, nota_vta, ciudad"),
       session_(session),
       options_(options) {
-    bindAll({&ControlUsuarios, &ControlUsuarios1, &ControlUsuarios2, &Usuarios_Mant1, &Control,
-             &ControlExpediente, &ControlExpedientes, &TipoCambio1, &CtroAtencion1, &CtroAtencion4,
-             &CtroAtencionF, &est_caja, &serviciosxctros, &AreaAtencion, &CargarExp,
+    bindAll({&ControlUsuarios, &ControlUsuarios1, &ControlUsuarios2,  &Usuarios_Mant,
+             &Usuarios_Mant1,  &Control,          &ControlExpediente, &ControlExpedientes,
+             &TipoCambio,      &TipoCambio1,      &est_caja,          &CtroAtencion,
+             &CtroAtencion1,   &CtroAtencion3,    &CtroAtencion4,     &CtroAtencionF,
+             &AreaVenta,       &AreaVenta2,       &AreaVenta3,        &AreaVentaT,
+             &ConsultaAreas,   &ServxCtro,        &ServxCtro1,        &ServxCtro2,
+             &ServxCtroR,      &AreaAtencion,     &AreaAtencionR,     &Prestaciones,
+             &ClasifServicios, &ClasifServiciosR, &Prestacionxserv,   &LabExterno,
+             &Listaprecios,    &Listaprecios1,    &Listaprecios3,     &UMedida,
+             &TipoForma,       &Metodopagocfdi,   &serviciosxctros,   &CargarExp,
              &AdmisionNota});
     bindAll({&registra_admision_p, &registra_datosgenerales_p, &registra_antecedentes_p,
              &BorrarAdmision, &BorrarExpediente});

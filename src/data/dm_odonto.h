@@ -16,22 +16,53 @@ public:
     NamedQuery ControlUsuarios;
     NamedQuery ControlUsuarios1;
     NamedQuery ControlUsuarios2;
+    NamedQuery Usuarios_Mant;
     NamedQuery Usuarios_Mant1;
     Command CambiaPass;
 
-    // Control, rate, centres
+    // Control and rate
     NamedQuery Control;
     NamedQuery ControlExpediente;
     NamedQuery ControlExpedientes;
+    NamedQuery TipoCambio;
     NamedQuery TipoCambio1;
+    NamedQuery est_caja;
+
+    // Centres, sales areas, clinics
+    NamedQuery CtroAtencion;
     NamedQuery CtroAtencion1;
+    NamedQuery CtroAtencion3;
     NamedQuery CtroAtencion4;
     NamedQuery CtroAtencionF;
-    NamedQuery est_caja;
+    NamedQuery AreaVenta;
+    NamedQuery AreaVenta2;
+    NamedQuery AreaVenta3;
+    NamedQuery AreaVentaT;
+    NamedQuery ConsultaAreas;
+    NamedQuery ServxCtro;
+    NamedQuery ServxCtro1;
+    NamedQuery ServxCtro2;
+    NamedQuery ServxCtroR;
+    NamedQuery AreaAtencion;
+    NamedQuery AreaAtencionR;
+
+    // Who pays what
+    NamedQuery Prestaciones;
+    NamedQuery ClasifServicios;
+    NamedQuery ClasifServiciosR;
+    NamedQuery Prestacionxserv;
+    NamedQuery LabExterno;
+
+    // Price list and forms of payment
+    NamedQuery Listaprecios;
+    NamedQuery Listaprecios1;
+    NamedQuery Listaprecios3;
+    NamedQuery UMedida;
+    NamedQuery TipoForma;
+    NamedQuery Metodopagocfdi;
 
     // The note's identification
     NamedQuery serviciosxctros;
-    NamedQuery AreaAtencion;
     NamedQuery CargarExp;
     NamedQuery AdmisionNota;
 

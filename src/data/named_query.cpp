@@ -61,7 +61,12 @@ void NamedQuery::addCalculated(const QString &field, Calculation calculation) {
 
 void NamedQuery::addLookup(const QString &field, const QString &key, NamedQuery &source,
                            const QString &sourceKey, const QString &result) {
-    lookups_.push_back({field.toUpper(), key.toUpper(), &source, sourceKey, result});
+    lookups_.push_back({field.toUpper(), key.toUpper(), &source, sourceKey, result, {}, false});
+    const std::size_t place = lookups_.size() - 1;
+    const auto forget = [this, place] { lookups_[place].read = false; };
+    connect(&source, &QAbstractItemModel::dataChanged, this, forget);
+    connect(&source, &QAbstractItemModel::modelReset, this, forget);
+    connect(&source, &QAbstractItemModel::rowsRemoved, this, forget);
     connect(&source, &NamedQuery::opened, this, [this] {
         if (!rows_.empty()) {
             emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
@@ -178,7 +183,9 @@ void NamedQuery::fetchPage(int wanted) {
             break;
         }
         calculate(row);
-        page.push_back(row);
+        if (accepts(row)) {
+            page.push_back(row);
+        }
     }
     if (page.empty()) {
         return;
@@ -197,6 +204,12 @@ void NamedQuery::calculate(Row &row) const {
         row.push_back(calculated.calculation(reader));
     }
     row.resize(columns_.size());
+}
+
+bool NamedQuery::accepts(const Row &row) const {
+    return !filter_ || filter_([this, &row](const QString &field) {
+        return row.at(static_cast<std::size_t>(requireColumn(field)));
+    });
 }
 
 bool NamedQuery::moveTo(int row) {
@@ -266,7 +279,7 @@ QVariant NamedQuery::value(const QString &field) const {
 }
 
 QVariant NamedQuery::valueAt(int row, const QString &field) const {
-    for (const Lookup &lookup : lookups_) {
+    for (Lookup &lookup : lookups_) {
         if (lookup.field.compare(field, Qt::CaseInsensitive) == 0) {
             return lookUp(lookup, row);
         }
@@ -275,18 +288,21 @@ QVariant NamedQuery::valueAt(int row, const QString &field) const {
         .at(static_cast<std::size_t>(requireColumn(field)));
 }
 
-QVariant NamedQuery::lookUp(const Lookup &lookup, int row) const {
+QVariant NamedQuery::lookUp(Lookup &lookup, int row) const {
     const QVariant key = valueAt(row, lookup.key);
     if (!key.isValid() || !lookup.source->isOpen()) {
         return QVariant();
     }
-    const int count = lookup.source->count();
-    for (int at = 0; at < count; ++at) {
-        if (sameValue(lookup.source->valueAt(at, lookup.sourceKey), key)) {
-            return lookup.source->valueAt(at, lookup.result);
+    if (!lookup.read) {
+        lookup.known.clear();
+        const int count = lookup.source->count();
+        for (int at = count - 1; at >= 0; --at) {
+            lookup.known.insert(lookup.source->valueAt(at, lookup.sourceKey).toString(),
+                                lookup.source->valueAt(at, lookup.result));
         }
+        lookup.read = true;
     }
-    return QVariant();
+    return lookup.known.value(key.toString());
 }
 
 void NamedQuery::setState(State state) {

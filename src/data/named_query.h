@@ -60,8 +60,15 @@ public:
 
     /// Adds a field that is worked out for each row as it is fetched.
     void addCalculated(const QString &field, Calculation calculation);
+    using RowFilter = std::function<bool(const RowReader &row)>;
+
+    /// Rows that it refuses are passed over from the next opening on; an empty one lets all
+    /// through.
+    void setFilter(RowFilter filter) { filter_ = std::move(filter); }
+
     /// Adds a field that looks `key` up among the rows of `source` and gives its `result`.
-    /// `source` must outlive this query.
+    /// To set the field is to set `key`. Each row of `source` is read once per opening of it, the
+    /// first with a key counts. `source` must outlive this query.
     void addLookup(const QString &field, const QString &key, NamedQuery &source,
                    const QString &sourceKey, const QString &result);
 
@@ -138,6 +145,8 @@ private:
         NamedQuery *source;
         QString sourceKey;
         QString result;
+        QHash<QString, QVariant> known;  ///< results by key, of the source's present rows
+        bool read = false;
     };
     struct Pending {
         enum class Kind { Insert, Update, Delete } kind;
@@ -151,7 +160,8 @@ private:
     void forgetRows();
     void takeColumns(const std::vector<Column> &stored);
     void announceOpening();
-    QVariant lookUp(const Lookup &lookup, int row) const;
+    bool accepts(const Row &row) const;
+    QVariant lookUp(Lookup &lookup, int row) const;
     void fetchPage(int rows);
     void calculate(Row &row) const;
     void setState(State state);
@@ -177,7 +187,8 @@ private:
     std::vector<Column> lastColumns_;
     QHash<QString, int> lastColumnByName_;
     std::vector<Calculated> calculated_;
-    std::vector<Lookup> lookups_;
+    mutable std::vector<Lookup> lookups_;
+    RowFilter filter_;
     std::unique_ptr<ResultSet> result_;
     std::vector<Row> rows_;
     int current_ = -1;

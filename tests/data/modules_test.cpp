@@ -2,6 +2,7 @@
 
 #include <QDate>
 
+#include "data/catalogue_texts.h"
 #include "data/database_error.h"
 #include "data/dm_conexion.h"
 #include "data/dm_escolares.h"
@@ -66,6 +67,30 @@ TEST(ModulesTest, EveryTextPreparesAgainstFreshDatabases) {
     for (const RuntimeText &text : borrarCorteTexts(1, QDate(2024, 1, 1))) {
         prepares(clinic, {"BorrarCorte", text.firebird()});
     }
+    for (const RuntimeText &text : {centroText("01"),
+                                    centroDescrText("A"),
+                                    campusExpedientesText("VAN"),
+                                    areaVentaText(1),
+                                    areaEnCentrosText(1),
+                                    borrarAreasText("VAN"),
+                                    areaAtencionText("01", 1, "07"),
+                                    prestacionText(1),
+                                    prestacionDescrText("A"),
+                                    prestacionxservText("01", 1, 1),
+                                    labExternoText(1),
+                                    codigoText(1),
+                                    borrarPreciosText(1),
+                                    tipoFormaText(1),
+                                    metodoClaveText("01"),
+                                    metodoDescrText("A"),
+                                    tipoCambioText(19.5),
+                                    usuarioText("a"),
+                                    cajaText(1),
+                                    cajaNombreText("A")}) {
+        prepares(clinic, {"Qry000", text.firebird()});
+    }
+    prepares(modules.conexion.FBFinanzas, {"Qry000", bancoText(1).firebird()});
+    prepares(modules.conexion.FBFinanzas, {"Qry000", bancoProgramaText(1, 1).firebird()});
 }
 
 TEST(ModulesTest, RoutinesTakeTheirParametersInTheOrderOfTheDatabase) {
