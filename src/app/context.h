@@ -10,6 +10,7 @@
 #include "toolkit/core/clock.h"
 #include "toolkit/core/ini_file.h"
 #include "toolkit/core/installation.h"
+#include "toolkit/forms/file_dialogs.h"
 #include "toolkit/forms/messages.h"
 #include "toolkit/report/printing.h"
 
@@ -26,6 +27,7 @@ struct Context {
     Session &session;
     Options &options;
     Messages &messages;
+    FileDialogs &fileDialogs;
     report::Printing &printing;
     Frame &frame;
 

@@ -31,6 +31,7 @@ struct Program::Parts {
         : installation(settings.root),
           clock(settings.clock != nullptr ? *settings.clock : machineClock),
           messages(settings.messages != nullptr ? *settings.messages : boxes),
+          fileDialogs(settings.fileDialogs != nullptr ? *settings.fileDialogs : chooser),
           splashTime(settings.splash),
           ini(installation.map(QStringLiteral("C:\\KALDO\\Ini\\kaldo.ini"))),
           conexion(installation, ini),
@@ -42,19 +43,13 @@ struct Program::Parts {
           window(std::make_unique<FRM000>(context, settings.tick)),
           systemPrinting(installation.map(QStringLiteral("C:\\KALDO\\Recibos")),
                          printingHost(window.get())),
-          context{installation,
-                  clock,
-                  ini,
-                  session,
-                  options,
-                  messages,
-                  settings.printing != nullptr ? *settings.printing : systemPrinting,
-                  *window,
-                  conexion,
-                  local,
-                  odonto,
-                  caja,
-                  finanzas,
+          context{installation, clock,
+                  ini,          session,
+                  options,      messages,
+                  fileDialogs,  settings.printing != nullptr ? *settings.printing : systemPrinting,
+                  *window,      conexion,
+                  local,        odonto,
+                  caja,         finanzas,
                   escolares},
           update(context, settings.update),
           countDown(settings.countDown) {
@@ -70,6 +65,8 @@ struct Program::Parts {
     const Clock &clock;
     BoxMessages boxes;
     Messages &messages;
+    DesktopFileDialogs chooser;
+    FileDialogs &fileDialogs;
     std::chrono::milliseconds splashTime;
     IniFile ini;
     Session session;

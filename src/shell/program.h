@@ -21,6 +21,7 @@ struct ProgramSettings {
     QString root;                            ///< root of the installation
     const Clock *clock = nullptr;            ///< null: that of the machine
     Messages *messages = nullptr;            ///< null: boxes on the desktop
+    FileDialogs *fileDialogs = nullptr;      ///< null: the chooser of the desktop
     report::Printing *printing = nullptr;    ///< null: the station's printers
     Seam *seam = nullptr;                    ///< watches every connection
     std::chrono::milliseconds splash{5000};  ///< from the start of the run loop to the login

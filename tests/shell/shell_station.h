@@ -36,6 +36,7 @@ public:
         settings.root = installation.root();
         settings.clock = &clock;
         settings.messages = &messages;
+        settings.fileDialogs = &fileDialogs;
         settings.printing = &printing;
         settings.seam = seam;
         settings.splash = splash;
@@ -117,6 +118,7 @@ public:
     CountDownPace countDown;
     UpdateSettings update;
     ScriptedMessages messages;
+    ScriptedFileDialogs fileDialogs;
     RecordingPrinting printing;
     Seam *seam = nullptr;
     std::unique_ptr<Program> program;

@@ -4,9 +4,11 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 
 #include "app/frame.h"
 #include "toolkit/core/clock.h"
+#include "toolkit/forms/file_dialogs.h"
 #include "toolkit/forms/messages.h"
 #include "toolkit/report/printing.h"
 
@@ -55,6 +57,18 @@ private:
     std::deque<Expected> expected_;
     QStringList shown_;
     QList<Message> boxes_;
+};
+
+/// Gives the file that the test has set, once; asked without one, the user chose none.
+class ScriptedFileDialogs final : public FileDialogs {
+public:
+    QString openFile(QWidget *, const QString &title, const QString &, const QString &) override {
+        asked += title;
+        return std::exchange(next, QString());
+    }
+
+    QString next;
+    QStringList asked;
 };
 
 /// Keeps what was printed and previewed. `onPrint` may throw, as a printer that fails does.

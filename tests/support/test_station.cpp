@@ -19,7 +19,7 @@ TestStation::TestStation(const QString &root)
       caja(conexion),
       finanzas(conexion),
       escolares(conexion),
-      context{files, clock,    ini,   session, options, messages, printing,
+      context{files, clock,    ini,   session, options, messages, fileDialogs, printing,
               frame, conexion, local, odonto,  caja,    finanzas, escolares} {
     session.ClienteSql = ini.value("Sql", "cliente");
     session.AnioActual = static_cast<qint16>(clock.today().year());

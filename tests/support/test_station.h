@@ -31,6 +31,7 @@ public:
     Session session;
     Options options;
     ScriptedMessages messages;
+    ScriptedFileDialogs fileDialogs;
     RecordingPrinting printing;
     TestFrame frame;
     DMConexion conexion;
