@@ -42,6 +42,11 @@ GridColumn &GridColumn::upper() {
     return *this;
 }
 
+GridColumn &GridColumn::lower() {
+    settings_.lower = true;
+    return *this;
+}
+
 GridColumn &GridColumn::limit(int characters) {
     settings_.limit = characters;
     return *this;
@@ -55,6 +60,22 @@ GridColumn &GridColumn::allowed(const QString &characters) {
 GridColumn &GridColumn::lookup(LookupSource source) {
     settings_.lookup = std::move(source);
     return *this;
+}
+
+GridColumn &GridColumn::strict() {
+    settings_.strict = true;
+    return *this;
+}
+
+GridColumn &GridColumn::choices(const QStringList &items, int code) {
+    settings_.choices = std::make_shared<ChoiceRows>(items, code);
+    settings_.lookup = settings_.choices->source();
+    return strict();
+}
+
+GridColumn &GridColumn::yesNo() {
+    settings_.yesNo = true;
+    return align(Qt::AlignHCenter);
 }
 
 GridColumn &GridColumn::sum(CellMask mask) {
@@ -178,7 +199,6 @@ void DataGrid::applyColumns() {
     }
     state_->bySection = bySection;
     state_->rows->setColumns(bySection);
-    const int letter = fontMetrics().averageCharWidth();
     for (int section = 0; section < model->columnCount(); ++section) {
         setColumnHidden(section, !bySection.contains(section) || bySection[section].hidden);
     }
@@ -188,14 +208,18 @@ void DataGrid::applyColumns() {
         state_->header->setSectionResizeMode(
             order[place], column.stretch ? QHeaderView::Stretch : QHeaderView::Interactive);
         if (!state_->arranged) {
-            const int title = fontMetrics().horizontalAdvance(column.title);
-            setColumnWidth(order[place], std::max(letter * column.width, title) + 18);
+            setColumnWidth(order[place], columnPixels(column));
         }
     }
     // The user's widths outlive a reopened query.
     state_->arranged = !order.isEmpty();
     state_->header->updateGeometry();
     updateGeometries();
+}
+
+int DataGrid::columnPixels(const GridColumn::Settings &column) const {
+    const int title = fontMetrics().horizontalAdvance(column.title);
+    return std::max(fontMetrics().averageCharWidth() * column.width, title) + 18;
 }
 
 void DataGrid::setColumnEnterHandler(std::function<void(const QString &)> handler) {
@@ -216,6 +240,10 @@ void DataGrid::setEscapeHandler(Handler handler) {
 
 void DataGrid::setDoubleClickHandler(Handler handler) {
     state_->doubleClick = std::move(handler);
+}
+
+void DataGrid::setTabHeld(bool held) {
+    state_->tabHeld = held;
 }
 
 void DataGrid::setRowColor(std::function<QColor(int)> color) {
@@ -295,6 +323,13 @@ void DataGrid::setCurrentField(const QString &field) {
     const QModelIndex index = state_->rows->index(row, section);
     setCurrentIndex(index);
     scrollTo(index);
+}
+
+QString DataGrid::nextEditableField(const QString &field) const {
+    const int section =
+        sourceModel() && !field.isEmpty() ? fieldSection(*sourceModel(), field) : -1;
+    const int next = nextEditable(section);
+    return next < 0 ? QString() : state_->bySection.value(next).field;
 }
 
 QVariant DataGrid::currentValue(const QString &field) const {

@@ -6,6 +6,7 @@
 #include <QTableView>
 
 #include <map>
+#include <memory>
 #include <optional>
 
 namespace kaldo {
@@ -21,6 +22,7 @@ public:
     GridColumn &align(Qt::Alignment alignment);
     GridColumn &editable(bool on = true);
     GridColumn &upper();
+    GridColumn &lower();
     /// Characters that can be typed into a cell; 0 for no limit.
     GridColumn &limit(int characters);
     /// Only these characters can be typed.
@@ -28,6 +30,16 @@ public:
     /// Cells are chosen from another model by a drop-down; a typed text is sought in the value
     /// field, then by prefix in the display field. The cell stores and shows the value field.
     GridColumn &lookup(LookupSource source);
+    /// A text that is not on the list is told as such and stays in the cell's editor, where it
+    /// would else make the cell NULL.
+    GridColumn &strict();
+    /// Cells are chosen from a fixed list by a drop-down. The cell stores the first `code`
+    /// characters of an item as its value and shows the whole; a value that no item has shows as
+    /// it is. Strict.
+    GridColumn &choices(const QStringList &items, int code);
+    /// A box that is ticked for "S" and empty for "N" and NULL; other values show half ticked.
+    /// Blank and a click turn it over in a row that is open, S and N set it.
+    GridColumn &yesNo();
     /// Sum of the column in the footer, under this mask.
     GridColumn &sum(CellMask mask = CellMask::MoneyTight);
     GridColumn &hidden();
@@ -42,7 +54,9 @@ public:
         std::optional<Qt::Alignment> alignment;
         std::optional<CellMask> sum;
         std::optional<LookupSource> lookup;
-        bool editable = false, upper = false, hidden = false, stretch = false;
+        std::shared_ptr<class ChoiceRows> choices;  ///< the model of a fixed list
+        bool editable = false, upper = false, lower = false, hidden = false, stretch = false;
+        bool strict = false, yesNo = false;
     };
     const Settings &settings() const { return settings_; }
 
@@ -57,8 +71,9 @@ private:
 ///
 /// Keyboard. Arrows, Home, End and the page keys move; Ctrl+C copies the current row, or the
 /// selected ones, tab-separated; F2 or typing opens the cell editor where the row is open for edit
-/// and the column is editable; F4 or Alt+Down opens the list of a look-up column; Escape closes the
-/// editor and keeps the old value, and without an editor runs the escape handler. Enter puts the
+/// and the column is editable; F2 on a row that isn't open does what a double click does; F4 or
+/// Alt+Down opens the list of a look-up column; Escape closes the editor and keeps the old value,
+/// and without an editor runs the escape handler. Enter puts the
 /// cell's text into the model, closes the editor, and then runs the enter handler; unless that
 /// moved the focus, Enter goes on to the next editable column of an open row, else out of the grid.
 class DataGrid : public QTableView, public Field {
@@ -84,6 +99,9 @@ public:
     void setArrowCancelHandler(Handler handler);
     void setEscapeHandler(Handler handler);
     void setDoubleClickHandler(Handler handler);
+    /// Tab does nothing while a row is open for edit, also in the cell editor, where it would else
+    /// go to the next column.
+    void setTabHeld(bool held);
     /// The colour of a cell by its row; an invalid colour leaves the default.
     void setRowColor(std::function<QColor(int row)> color);
 
@@ -96,6 +114,9 @@ public:
     int currentRow() const;
     void setCurrentRow(int row);
     QString currentField() const;
+    /// The editable, visible column after this one as shown, the first for an empty field; empty
+    /// if there is none.
+    QString nextEditableField(const QString &field) const;
     /// Moves to the column in the current row (the first row if there is none).
     void setCurrentField(const QString &field);
     /// The raw value of a field in the current row; invalid for none.
@@ -161,12 +182,18 @@ private:
     void sumsChanged();
     void afterEnter();
     bool arrowKey(QKeyEvent *event);
+    bool boxKey(QKeyEvent *event);
+    bool openRowKey(QKeyEvent *event);
+    void setBox(bool ticked);
+    bool mayEdit(const QModelIndex &index) const;
     void nextColumn();
     void copyRows() const;
     bool store(QWidget *editor);
     void pickFromList(const QString &field, int sourceRow);
     void sortBy(int section);
+
     int nextEditable(int section) const;
+    int columnPixels(const GridColumn::Settings &column) const;
 
     std::unique_ptr<State> state_;
     bool rowEdit_ = false;

@@ -14,12 +14,52 @@
 
 namespace kaldo {
 
-bool DataGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) {
+bool DataGrid::mayEdit(const QModelIndex &index) const {
     const auto column = state_->bySection.constFind(index.column());
-    const bool may = rowEdit_ && !state_->readOnly && index.isValid() &&
-                     index.row() == currentIndex().row() &&
-                     column != state_->bySection.constEnd() && column->editable;
-    return may && QTableView::edit(index, trigger, event);
+    return rowEdit_ && !state_->readOnly && index.isValid() &&
+           index.row() == currentIndex().row() && column != state_->bySection.constEnd() &&
+           column->editable;
+}
+
+bool DataGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) {
+    return mayEdit(index) && !state_->bySection.value(index.column()).yesNo &&
+           QTableView::edit(index, trigger, event);
+}
+
+void DataGrid::setBox(bool ticked) {
+    const QString field = currentField();
+    const QModelIndex target = state_->rows->mapToSource(currentIndex());
+    runGuarded([&] {
+        if (sourceModel()->setData(target, ticked ? QStringLiteral("S") : QStringLiteral("N"))) {
+            emit cellEdited(field);
+        }
+    });
+}
+
+bool DataGrid::boxKey(QKeyEvent *event) {
+    if (!mayEdit(currentIndex()) || !state_->bySection.value(currentIndex().column()).yesNo) {
+        return false;
+    }
+    const bool blank = event->key() == Qt::Key_Space && !event->isAutoRepeat();
+    if (!blank && event->key() != Qt::Key_S && event->key() != Qt::Key_N) {
+        return false;
+    }
+    const bool ticked = currentIndex().data(Qt::EditRole).toString() == QLatin1String("S");
+    setBox(blank ? !ticked : event->key() == Qt::Key_S);
+    return true;
+}
+
+bool DataGrid::openRowKey(QKeyEvent *event) {
+    if (event->key() != Qt::Key_F2 || rowEdit_ || !state_->doubleClick ||
+        !currentIndex().isValid()) {
+        return false;
+    }
+    FocusKeeper::get().post([grid = QPointer<DataGrid>(this), handler = state_->doubleClick] {
+        if (grid) {
+            runGuarded(handler);
+        }
+    });
+    return true;
 }
 
 bool DataGrid::editorOpen() const {
@@ -71,6 +111,11 @@ bool DataGrid::store(QWidget *editor) {
                 const int shown = fieldSection(*list, column.lookup->displayField);
                 found = findPrefix(list, shown, line->text().trimmed());
             }
+        }
+        if (found < 0 && column.strict && !line->text().trimmed().isEmpty()) {
+            QToolTip::showText(line->mapToGlobal(line->rect().bottomLeft()),
+                               QStringLiteral("«%1» no está en la lista.").arg(line->text()), line);
+            return false;
         }
         value = found < 0 ? QVariant() : list->index(found, stored).data(Qt::EditRole);
     } else if (!GridDelegate::read(line->text(), column, &value, &complaint)) {
@@ -229,6 +274,10 @@ void DataGrid::keyPressEvent(QKeyEvent *event) {
         }
         return;
     }
+    const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (boxKey(event) || openRowKey(event) || (tab && rowEdit_ && state_->tabHeld)) {
+        return;
+    }
     const bool jumps = control && (event->key() == Qt::Key_Home || event->key() == Qt::Key_End);
     if (arrowKey(event) || (rowEdit_ && jumps)) {
         return;
@@ -242,6 +291,10 @@ void DataGrid::mousePressEvent(QMouseEvent *event) {
         return;  // the row that is open stays the current one
     }
     QTableView::mousePressEvent(event);
+    if (index.isValid() && event->button() == Qt::LeftButton && mayEdit(index) &&
+        state_->bySection.value(index.column()).yesNo) {
+        setBox(index.data(Qt::EditRole).toString() != QLatin1String("S"));
+    }
 }
 
 void DataGrid::mouseDoubleClickEvent(QMouseEvent *event) {
@@ -304,8 +357,8 @@ void DataGrid::copyRows() const {
         for (int place = 0; place < state_->header->count(); ++place) {
             const int section = state_->header->logicalIndex(place);
             if (!isColumnHidden(section)) {
-                cells += maskedText(row.siblingAtColumn(section).data(Qt::EditRole),
-                                    state_->bySection.value(section).mask);
+                cells += GridDelegate::shownText(row.siblingAtColumn(section).data(Qt::EditRole),
+                                                 state_->bySection.value(section));
             }
         }
         lines += cells.join(QLatin1Char('\t'));
@@ -342,8 +395,12 @@ QSize DataGrid::sizeHint() const {
     const int height = state_->header->sizeHint().height() +
                        rows * verticalHeader()->defaultSectionSize() +
                        state_->footer->sizeHint().height() + 2 * frameWidth();
-    const int width =
-        state_->header->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    // By the columns that are told, since a window takes its size before its query is open.
+    int columns = 0;
+    for (const GridColumn::Settings &column : std::as_const(state_->columns)) {
+        columns += column.hidden ? 0 : columnPixels(column);
+    }
+    const int width = columns + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
     return {std::min(width, 900), height};
 }
 

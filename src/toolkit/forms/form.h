@@ -160,6 +160,10 @@ public:
     {
         return with([](W *widget) { widget->setUpperCase(true); });
     }
+    Self &lower() requires requires(W *widget) { widget->setLowerCase(true); }
+    {
+        return with([](W *widget) { widget->setLowerCase(true); });
+    }
     Self &digits() requires requires(W *widget) { widget->setDigitsOnly(); }
     {
         return with([](W *widget) { widget->setDigitsOnly(); });

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyleOptionButton>
 #include <QValidator>
 
 namespace kaldo {
@@ -29,6 +30,8 @@ public:
             }
             if (column_.upper) {
                 c = c.toUpper();
+            } else if (column_.lower) {
+                c = c.toLower();
             }
             if (!allows(c)) {
                 return Invalid;
@@ -73,11 +76,49 @@ Qt::Alignment alignmentOf(const GridColumn::Settings &column) {
 }
 
 QString editText(const QVariant &value, const GridColumn::Settings &column) {
+    if (column.choices) {
+        return GridDelegate::shownText(value, column);
+    }
     const bool money = column.mask == CellMask::MoneyTight || column.mask == CellMask::MoneySpaced;
     return maskedText(value, money ? CellMask::Number : column.mask);
 }
 
 }  // namespace
+
+LookupSource ChoiceRows::source() {
+    return {this,
+            QStringLiteral("VALOR"),
+            QStringLiteral("TEXTO"),
+            {{QStringLiteral("TEXTO"), QString(), 36, CellMask::Text}}};
+}
+
+QString ChoiceRows::textOf(const QString &value) const {
+    for (const QString &item : items_) {
+        if (!value.isEmpty() && item.left(code_) == value) {
+            return item;
+        }
+    }
+    return value;
+}
+
+int ChoiceRows::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(items_.size());
+}
+
+QVariant ChoiceRows::data(const QModelIndex &index, int role) const {
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) {
+        return {};
+    }
+    const QString &item = items_.at(index.row());
+    return index.column() == 0 ? item.left(code_) : item;
+}
+
+QVariant ChoiceRows::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    return section == 0 ? QStringLiteral("VALOR") : QStringLiteral("TEXTO");
+}
 
 GridRows::GridRows(QObject *parent) : QSortFilterProxyModel(parent) {
     setSortRole(Qt::EditRole);
@@ -124,8 +165,8 @@ QVariant GridRows::headerData(int section, Qt::Orientation orientation, int role
 bool GridRows::filterAcceptsRow(int row, const QModelIndex &) const {
     for (auto filter = filters_.cbegin(); filter != filters_.cend(); ++filter) {
         const QVariant value = sourceModel()->index(row, filter.key()).data(Qt::EditRole);
-        const CellMask mask = columns_.value(filter.key()).mask;
-        if (!foldedText(maskedText(value, mask)).contains(filter.value())) {
+        if (!foldedText(GridDelegate::shownText(value, columns_.value(filter.key())))
+                 .contains(filter.value())) {
             return false;
         }
     }
@@ -240,6 +281,11 @@ bool GridHeader::eventFilter(QObject *watched, QEvent *event) {
 
 GridDelegate::GridDelegate(DataGrid *grid) : QStyledItemDelegate(grid), grid_(grid) {}
 
+QString GridDelegate::shownText(const QVariant &value, const GridColumn::Settings &column) {
+    return column.choices ? column.choices->textOf(value.toString())
+                          : maskedText(value, column.mask);
+}
+
 const GridColumn::Settings *GridDelegate::columnAt(int section) const {
     const auto found = grid_->state_->bySection.constFind(section);
     return found == grid_->state_->bySection.constEnd() ? nullptr : &*found;
@@ -251,7 +297,7 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     if (!column) {
         return;
     }
-    option->text = maskedText(index.data(Qt::EditRole), column->mask);
+    option->text = column->yesNo ? QString() : shownText(index.data(Qt::EditRole), *column);
     option->features.setFlag(QStyleOptionViewItem::HasDisplay, !option->text.isEmpty());
     option->displayAlignment = alignmentOf(*column);
     option->textElideMode = Qt::ElideRight;
@@ -268,6 +314,10 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     QStyleOptionViewItem plain = option;
     plain.state.setFlag(QStyle::State_HasFocus, false);
     QStyledItemDelegate::paint(painter, plain, index);
+    const GridColumn::Settings *column = columnAt(index.column());
+    if (column && column->yesNo) {
+        paintBox(painter, plain, index.data(Qt::EditRole).toString());
+    }
     if (index == grid_->currentIndex() && grid_->hasFocus()) {
         // The cell that keys go to, told apart from the row that is marked.
         QPen frame(option.palette.color(QPalette::Highlight).darker(170), 2);
@@ -277,6 +327,24 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
         painter->restore();
     }
+}
+
+void GridDelegate::paintBox(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QString &value) const {
+    const QStyle *style = grid_->style();
+    QStyleOptionButton box;
+    box.palette = option.palette;
+    const int side = style->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, grid_);
+    box.rect = QRect(0, 0, side, side);
+    box.rect.moveCenter(option.rect.center());
+    box.state = QStyle::State_Enabled;
+    if (value == QLatin1String("S")) {
+        box.state |= QStyle::State_On;
+    } else {
+        const bool empty = value.isEmpty() || value == QLatin1String("N");
+        box.state |= empty ? QStyle::State_Off : QStyle::State_NoChange;
+    }
+    style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, grid_);
 }
 
 QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
@@ -346,7 +414,7 @@ bool GridDelegate::eventFilter(QObject *watched, QEvent *event) {
             return true;
         case Qt::Key_Tab:
         case Qt::Key_Backtab:
-            if (grid_->commitEditor() && key->key() == Qt::Key_Tab) {
+            if (!grid_->state_->tabHeld && grid_->commitEditor() && key->key() == Qt::Key_Tab) {
                 grid_->nextColumn();
             }
             return true;

@@ -10,6 +10,26 @@ class QLineEdit;
 
 namespace kaldo {
 
+/// The model of a fixed list: fields VALOR, the code that the items begin with, and TEXTO, the
+/// items.
+class ChoiceRows : public QAbstractTableModel {
+public:
+    ChoiceRows(const QStringList &items, int code) : items_(items), code_(code) {}
+
+    LookupSource source();
+    /// The item of a value, the value itself where no item has it.
+    QString textOf(const QString &value) const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &) const override { return 2; }
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QStringList items_;
+    int code_;
+};
+
 /// The rows that a grid shows: filtered by the line under the titles, in the order chosen, with the
 /// grid's titles. All cells count as editable: the grid itself decides what is.
 class GridRows : public QSortFilterProxyModel {
@@ -77,6 +97,8 @@ public:
                const QModelIndex &index) const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// What a cell of the column shows for a value.
+    static QString shownText(const QVariant &value, const GridColumn::Settings &column);
     /// What is typed, as the raw value of the column; false and a complaint if it is none.
     static bool read(const QString &text, const GridColumn::Settings &column, QVariant *value,
                      QString *complaint);
@@ -86,6 +108,8 @@ protected:
 
 private:
     const GridColumn::Settings *columnAt(int section) const;
+    void paintBox(QPainter *painter, const QStyleOptionViewItem &option,
+                  const QString &value) const;
 
     DataGrid *grid_;
 };
@@ -126,6 +150,7 @@ struct DataGrid::State {
     bool arranged = false;
     QStringList fields;  ///< of the model, when a reset last arranged the columns
     bool readOnly = false;
+    bool tabHeld = false;
     bool sortable = false;
     int sortedBy = -1;
     Qt::SortOrder order = Qt::AscendingOrder;

@@ -151,6 +151,11 @@ void TextField::setUpperCase(bool upper) {
     setText(text());
 }
 
+void TextField::setLowerCase(bool lower) {
+    lower_ = lower;
+    setText(text());
+}
+
 void TextField::setAllowed(const QString &characters) {
     allowed_ = characters;
     setText(text());
@@ -161,9 +166,9 @@ void TextField::normalise(QString *text, int *position) const {
         filterText(text, position,
                    [this](QChar c, const QString &) { return allowed_.contains(c); });
     }
-    if (upper_) {
+    if (upper_ || lower_) {
         for (QChar &c : *text) {
-            c = c.toUpper();  // one for one: a sharp s stays, so that no text grows
+            c = upper_ ? c.toUpper() : c.toLower();  // one for one, so that no text grows
         }
     }
     LineField::normalise(text, position);

@@ -55,6 +55,8 @@ public:
 
     /// Letters turn to capitals as they are typed, pasted or set.
     void setUpperCase(bool upper);
+    /// The same with small letters, as mail addresses are kept.
+    void setLowerCase(bool lower);
     /// Only these characters can be typed; others are passed over. Empty lets all through.
     void setAllowed(const QString &characters);
     /// Digits, blank and minus, as the number fields of the notes take them.
@@ -66,6 +68,7 @@ protected:
 
 private:
     bool upper_ = false;
+    bool lower_ = false;
     QString allowed_;
 };
 

@@ -1,0 +1,371 @@
+#include "app/catalogue_panel.h"
+
+#include "toolkit/forms/application.h"
+#include "toolkit/forms/focus.h"
+#include "toolkit/forms/form.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLayout>
+
+namespace kaldo {
+
+CataloguePanel::CataloguePanel(Context &context, QWidget *parent, const QString &name)
+    : QWidget(parent), context_(context) {
+    setObjectName(name);
+    connect(qApp, &QApplication::focusChanged, this, &CataloguePanel::shareLetters);
+}
+
+CataloguePanel::~CataloguePanel() {
+    if (rules_.query) {
+        disconnect(rules_.query, nullptr, this, nullptr);
+        grid_->setModel(nullptr);
+        rules_.query->cancelUpdates();
+        if (!rules_.small) {
+            context_.frame.setEntryEnabled(QStringLiteral("A1"), true);
+        }
+    }
+}
+
+void CataloguePanel::setRules(CatalogueRules rules) {
+    rules_ = std::move(rules);
+    build();
+    grid_->setColumns(rules_.columns);
+    bindGrid(grid_, rules_.query);
+    grid_->setColumnEnterHandler([this](const QString &field) { enterColumn(field); });
+    grid_->setArrowCancelHandler([this] { cancel(); });
+    grid_->setDoubleClickHandler([this] { edit(); });
+    grid_->setTabHeld(true);
+    connectGuarded(rules_.query, &NamedQuery::cursorMoved, this, [this] { emit rowChanged(); });
+    connectGuarded(rules_.query, &NamedQuery::opened, this, [this] { emit rowChanged(); });
+    connectGuarded(rules_.query, &NamedQuery::stateChanged, this, [this] {
+        grid_->setRowEdit(editing());
+        updateButtons();
+    });
+    setMode(CatalogueMode::Consult);
+}
+
+void CataloguePanel::build() {
+    using namespace form;
+    const auto tool = [](Button **where, const char *name, const char *caption, const char *icon,
+                         std::function<void()> handler) {
+        return button(where, QString::fromLatin1(name), QString::fromUtf8(caption))
+            .icon(QString::fromLatin1(icon))
+            .clicked(std::move(handler));
+    };
+    navigator_.resize(4);
+    const auto step = [this](int place, const char *name, const char *caption, const char *icon,
+                             std::function<void()> handler) {
+        return iconButton(&navigator_[place], QString::fromLatin1(name), QString::fromUtf8(caption),
+                          QString::fromLatin1(icon))
+            .clicked(std::move(handler));
+    };
+    form::build(this,
+                column({
+                    row({
+                        tool(&insert_, "SpeedButton1", "&Insertar", "insert", [this] { insert(); }),
+                        tool(&remove_, "SpeedButton2", "&Borrar", "delete", [this] { remove(); }),
+                        tool(&save_, "SpeedButton3", "&Grabar", "save", [this] { save(); }),
+                        tool(&cancel_, "SpeedButton4", "&Cancelar", "cancel", [this] { cancel(); })
+                            .escape(),
+                        stretch(),
+                        step(0, "Primero", "Primer Registro", "first", [this] { go(0); }),
+                        step(1, "Anterior", "Registro Anterior", "previous",
+                             [this] { go(rules_.query->position() - 1); }),
+                        step(2, "Siguiente", "Siguiente Registro", "next",
+                             [this] { go(rules_.query->position() + 1); }),
+                        step(3, "Ultimo", "Ultimo Registro", "last",
+                             [this] { go(rules_.query->count() - 1); }),
+                    }),
+                    form::grid(&grid_, QStringLiteral("DBGrid1"))
+                        .accessible(QStringLiteral("Lista"))
+                        .fill()
+                        .grow(),
+                }));
+    layout()->setContentsMargins(0, 0, 0, 0);
+    for (IconButton *button : std::as_const(navigator_)) {
+        button->setVisible(!rules_.small);
+    }
+}
+
+void CataloguePanel::reload() {
+    rules_.query->cancelUpdates();
+    rules_.query->open(rules_.parameters ? rules_.parameters() : Parameters());
+    setMode(CatalogueMode::Consult);
+}
+
+void CataloguePanel::refresh() {
+    if (editing() || !rules_.query->isOpen()) {
+        return;
+    }
+    const Parameters place = keyValues();
+    reload();
+    rules_.query->locate(place);
+}
+
+Parameters CataloguePanel::keyValues() const {
+    Parameters values;
+    for (const QString &key : rules_.keys) {
+        values.append({key, rules_.query->isOpen() ? rules_.query->value(key) : QVariant()});
+    }
+    return values;
+}
+
+void CataloguePanel::insert() {
+    if (editing() || (rules_.prepareInsert && !rules_.prepareInsert())) {
+        return;
+    }
+    rules_.query->append();
+    if (rules_.defaults) {
+        rules_.defaults(*rules_.query);
+    }
+    inserting_ = true;
+    saveAllowed_ = false;
+    setMode(CatalogueMode::Edit);
+    editAt(rules_.insertAt);
+}
+
+void CataloguePanel::edit() {
+    if (editing() || rules_.query->position() < 0) {
+        return;
+    }
+    inserting_ = false;
+    if (rules_.openRow) {
+        rules_.openRow();
+    } else {
+        rules_.query->edit();
+    }
+    saveAllowed_ = true;
+    setMode(CatalogueMode::Edit);
+    editAt(rules_.editAt);
+}
+
+void CataloguePanel::editAt(const QString &wanted) {
+    grid_->setCurrentRow(rules_.query->position());
+    grid_->setCurrentField(wanted.isEmpty() ? grid_->nextEditableField(QString()) : wanted);
+    moveFocus(grid_);
+}
+
+void CataloguePanel::allowSave() {
+    saveAllowed_ = true;
+    updateButtons();
+}
+
+void CataloguePanel::setInsertAllowed(bool allowed) {
+    insertAllowed_ = allowed;
+    updateButtons();
+}
+
+void CataloguePanel::save() {
+    if (!editing() || !grid_->commitEditor() || (rules_.accept && !rules_.accept())) {
+        return;
+    }
+    const Answer answer = context_.messages.confirm(rules_.saveQuestion);
+    if (answer == Answer::No) {
+        if (rules_.saveRefused) {
+            rules_.saveRefused();
+        }
+        cancel();
+    }
+    if (answer != Answer::Yes) {
+        return;
+    }
+    if (rules_.complete && !rules_.complete()) {
+        return;
+    }
+    const Parameters place = keyValues();
+    try {
+        writeRow();
+    } catch (...) {
+        if (rules_.writeFailure == WriteFailure::CancelsEdit) {
+            cancel();
+        } else {
+            rules_.query->edit();
+        }
+        throw;
+    }
+    reload();
+    rules_.query->locate(place);
+    moveFocus(grid_);
+    if (rules_.saved) {
+        rules_.saved();
+    }
+}
+
+void CataloguePanel::writeRow() {
+    if (rules_.write) {
+        rules_.write();
+    } else {
+        rules_.query->apply();
+    }
+}
+
+void CataloguePanel::cancel() {
+    if (!editing()) {
+        return;
+    }
+    grid_->cancelEditor();
+    const Parameters place = inserting_ ? Parameters() : keyValues();
+    if (rules_.drop) {
+        rules_.drop();
+    }
+    reload();
+    if (!place.isEmpty()) {
+        rules_.query->locate(place);
+    }
+    moveFocus(grid_);
+}
+
+void CataloguePanel::remove() {
+    if (editing() || rules_.query->position() < 0) {
+        return;
+    }
+    const Answer answer = context_.messages.confirm(rules_.removeQuestion);
+    if (answer == Answer::No) {
+        if (rules_.removeRefused) {
+            rules_.removeRefused();
+        }
+        refresh();
+    }
+    if (answer != Answer::Yes) {
+        return;
+    }
+    if (rules_.mayRemove && !rules_.mayRemove()) {
+        return;
+    }
+    const int row = rules_.query->position();
+    try {
+        if (rules_.remove) {
+            rules_.remove();
+        } else {
+            rules_.query->remove();
+            rules_.query->apply();
+        }
+    } catch (...) {
+        rules_.query->cancelUpdates();
+        throw;
+    }
+    reload();
+    if (!rules_.query->moveTo(row)) {
+        rules_.query->moveTo(row - 1);
+    }
+    moveFocus(grid_);
+}
+
+EnterResult CataloguePanel::refuse(const QString &field, const QString &text) {
+    context_.messages.information(text);
+    rules_.query->set(field, QVariant());
+    return EnterResult::Stay;
+}
+
+EnterResult CataloguePanel::refuseWarning(const QString &field, const QString &text) {
+    context_.messages.warning(text);
+    rules_.query->set(field, QVariant());
+    return EnterResult::Stay;
+}
+
+EnterResult CataloguePanel::required() {
+    context_.messages.warning(QStringLiteral("Campo Obligatorio, vuelva a intentar"));
+    return EnterResult::Stay;
+}
+
+void CataloguePanel::enterColumn(const QString &field) {
+    if (!editing()) {
+        return;
+    }
+    const auto handler = rules_.enter.constFind(field);
+    const EnterResult result =
+        handler == rules_.enter.constEnd() ? EnterResult::Next : (*handler)();
+    if (!editing()) {
+        return;
+    }
+    const QString next = grid_->nextEditableField(field);
+    if (result == EnterResult::Save || (result == EnterResult::Next && next.isEmpty())) {
+        save();
+    } else if (result == EnterResult::Stay) {
+        if (grid_->currentField() == field) {
+            grid_->setCurrentField(field);
+        }
+    } else {
+        grid_->setCurrentField(next);
+    }
+}
+
+void CataloguePanel::setMode(CatalogueMode mode) {
+    mode_ = mode;
+    grid_->setRowEdit(editing());
+    grid_->setRowSelection(!editing());
+    applyColumnsOfMode();
+    for (Field *field : std::as_const(details_)) {
+        field->setFieldReadOnly(!editing());
+    }
+    updateButtons();
+    if (rules_.modeChanged) {
+        rules_.modeChanged(mode_);
+    }
+}
+
+void CataloguePanel::applyColumnsOfMode() {
+    for (const QString &field : std::as_const(rules_.fixedOnEdit)) {
+        grid_->setColumnEditable(field, inserting_);
+    }
+}
+
+void CataloguePanel::updateButtons() {
+    const bool consult = !editing();
+    const bool rows = !rules_.query->isEmpty();
+    insert_->setEnabled(consult && insertAllowed_ && rules_.query->isOpen());
+    remove_->setEnabled(consult && rows);
+    save_->setEnabled(editing() && saveAllowed_);
+    cancel_->setEnabled(editing());
+    for (IconButton *button : std::as_const(navigator_)) {
+        button->setEnabled(consult && rows);
+    }
+    if (consult && !rules_.small) {
+        context_.frame.setEntryEnabled(QStringLiteral("A1"), rows);
+    }
+}
+
+void CataloguePanel::go(int row) {
+    rules_.query->moveTo(row);
+}
+
+void CataloguePanel::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Escape && editing()) {
+        runGuarded([this] { cancel(); });
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void CataloguePanel::shareLetters() {
+    const QWidget *focus = QApplication::focusWidget();
+    if (!focus || !insert_ || !isAncestorOf(focus)) {
+        return;
+    }
+    const QList<CataloguePanel *> panels = window()->findChildren<CataloguePanel *>();
+    for (CataloguePanel *panel : panels) {
+        panel->setLetters(panel == this);
+    }
+}
+
+void CataloguePanel::setLetters(bool on) {
+    for (Button *button : {insert_, remove_, save_, cancel_}) {
+        button->setShortcut(on ? QKeySequence::mnemonic(button->text()) : QKeySequence());
+    }
+}
+
+form::WidgetItem<CataloguePanel> catalogue(CataloguePanel **where, Context &context,
+                                           const QString &name, CatalogueRules rules) {
+    auto node = std::make_shared<form::Node>();
+    node->name = name;
+    node->make = [where, &context, name, rules](QWidget *parent) -> QWidget * {
+        auto *panel = new CataloguePanel(context, parent, name);
+        *where = panel;
+        panel->setRules(rules);
+        return panel;
+    };
+    return form::WidgetItem<CataloguePanel>(node).fill().grow();
+}
+
+}  // namespace kaldo

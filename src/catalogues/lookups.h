@@ -1,0 +1,19 @@
+#pragma once
+
+#include "data/named_query.h"
+#include "toolkit/forms/list_popup.h"
+
+namespace kaldo {
+
+/// The drop-downs that several catalogues share.
+
+/// The programmes of the finance database, by `programaid`.
+LookupSource programmes(NamedQuery &programas);
+/// The centres of the campus, by `centro`.
+LookupSource centres(NamedQuery &ctroAtencion);
+/// Sales areas, by `tipo_prod`.
+LookupSource salesAreas(NamedQuery &areas);
+/// The campuses, by `ciudad`.
+LookupSource campuses(NamedQuery &ctroAtencion3);
+
+}  // namespace kaldo
