@@ -80,7 +80,7 @@ int main(int argc, char **argv) {
     settings.root = kaldo::Installation::rootFromEnvironment(arguments);
     kaldo::Program program(settings);
     if (!program.start()) {
-        return 0;
+        return kaldo::Program::kNotConnected;
     }
     // The database engine in the process takes these for itself and then ends nothing.
     std::signal(SIGINT, SIG_DFL);

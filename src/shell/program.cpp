@@ -6,6 +6,7 @@
 #include "payments/frm401_payment_note.h"
 #include "people/frm_alumnos_student_choice.h"
 #include "shell/frm_acceso_login.h"
+#include "shell/frm_control_panel.h"
 #include "shell/frm_inicio_splash.h"
 #include "shell/frm_pass_password.h"
 #include "shell/frm_version_about.h"
@@ -83,6 +84,7 @@ struct Program::Parts {
     UpdateCheck update;
     CountDownPace countDown;
 
+    std::unique_ptr<FRMControlPanel> panel;
     std::unique_ptr<FRM401_3> formaPago;
     std::unique_ptr<FRMAlumnos> alumnos;
     std::unique_ptr<FRMVersion> version;
@@ -133,11 +135,10 @@ DMConexion &Program::conexion() {
 bool Program::start() {
     runGuarded([this] { parts_->window->formCreate(); });
     createConnections();
-    bool connected = false;
-    runGuarded([&] { connected = createControlPanel(); });
     if (!parts_->conexion.FBOdonto.isOpen()) {
         return false;
     }
+    createControlPanel();
     parts_->window->showMaximized();
     createResidents();
     registerScreens();
@@ -151,7 +152,7 @@ bool Program::start() {
 
 int Program::run() {
     if (!start()) {
-        return 0;
+        return kNotConnected;
     }
     return QCoreApplication::exec();
 }
@@ -165,18 +166,11 @@ void Program::createConnections() {
     }
 }
 
-bool Program::createControlPanel() {
+void Program::createControlPanel() {
     Parts &parts = *parts_;
-    if (!parts.conexion.FBOdonto.isOpen()) {
-        return false;
-    }
-    parts.local.Recibos.open();
-    parts.local.Firebird.open();
-    parts.local.Informix.open();
-    parts.odonto.ControlExpediente.open({{QStringLiteral("campus"), QStringLiteral("000")}});
-    parts.options.load(parts.ini);
-    parts.conexion.FBCtrclinicas.close();
-    return true;
+    parts.panel = std::make_unique<FRMControlPanel>(parts.context, *parts.window);
+    parts.panel->setParent(parts.window.get(), Qt::Dialog);
+    runGuarded([&] { parts.panel->formCreate(); });
 }
 
 void Program::createResidents() {
@@ -213,6 +207,8 @@ void Program::registerScreens() {
     });
     window.setScreen(QStringLiteral("E6"),
                      [&parts] { return std::make_unique<FRM405>(parts.context); });
+    window.setHandler(QStringLiteral("A3"),
+                      [&parts, &window] { parts.panel->openFromMenu(window.childScreen()); });
     window.setHandler(QStringLiteral("J1"), [&parts] { parts.login->openFromMenu(); });
     window.setHandler(QStringLiteral("K2"), [&parts] {
         if (parts.update.run(UpdateCheck::Asked::FromMenu)) {

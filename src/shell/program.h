@@ -33,6 +33,9 @@ struct ProgramSettings {
 /// One run of the system on a station: owns everything from the ini file to the main window.
 class Program {
 public:
+    /// Exit code of a run that ends because the clinic's database is not connected.
+    static constexpr int kNotConnected = 1;
+
     explicit Program(const ProgramSettings &settings);
     ~Program();
     Program(const Program &) = delete;
@@ -42,7 +45,8 @@ public:
     /// the next. False when the run ends here: the clinic's database is not connected.
     bool start();
 
-    /// start(), and the run loop until the application ends; the exit code.
+    /// start(), and the run loop until the application ends; the exit code, kNotConnected where
+    /// start() ended the run.
     int run();
 
     Context &context();
@@ -56,7 +60,7 @@ private:
     struct Parts;
 
     void createConnections();
-    bool createControlPanel();
+    void createControlPanel();
     void createResidents();
     void registerScreens();
     void Timer2();
