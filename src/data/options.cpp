@@ -170,11 +170,13 @@ void Options::loadPrints(const IniFile &ini) {
 }
 
 void Options::save(IniFile &ini) const {
-    saveGeneral(ini);
-    saveSystem(ini);
-    saveAdmissions(ini);
-    saveDossiers(ini);
-    savePrints(ini);
+    ini.writeTogether([&] {
+        saveGeneral(ini);
+        saveSystem(ini);
+        saveAdmissions(ini);
+        saveDossiers(ini);
+        savePrints(ini);
+    });
 }
 
 void Options::saveGeneral(IniFile &ini) const {

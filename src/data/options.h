@@ -89,11 +89,11 @@ struct Options {
     /// rest keeps what it held.
     void load(const IniFile &ini);
 
-    /// Writes every key in the order of the panel's pages. A key whose text can't be written throws
-    /// (std::runtime_error, Spanish text); those before it are written. Kept as the files in use
-    /// have them: the closing hour and the change of passwords are only ever switched on, the help
-    /// file and the policies go to other keys than load() reads, a sector or a colour scheme that
-    /// is none of the list leaves its keys alone.
+    /// Writes every key in the order of the panel's pages, all of them or, throwing
+    /// (std::runtime_error, Spanish text), none. Kept as the files in use have them: the closing
+    /// hour and the change of passwords are only ever switched on, the help file and the policies
+    /// go to other keys than load() reads, a sector or a colour scheme that is none of the list
+    /// leaves its keys alone.
     void save(IniFile &ini) const;
 
     /// The short name of the institution; its name stands in where it has none.

@@ -52,6 +52,8 @@ private:
     void bindRecords();
 
     void AplicarCambios();
+    /// What was written into the file by hand meanwhile stays.
+    void rereadFile();
     bool valuesFit();
     bool recordsSaved();
     void showOptions();

@@ -322,7 +322,6 @@ TEST_F(ControlPanel, FileThatCannotBeWrittenChangesNothing) {
     at.inPanel([&] {
         at.toPage("Opciones");
         at.type("DiasBusqueda", "45");
-        QFile::copy(at.installation.iniPath(), at.installation.root() + "/kaldo.ini");
         QDir(folder).removeRecursively();
         QFile blocker(folder);
         ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
@@ -330,7 +329,13 @@ TEST_F(ControlPanel, FileThatCannotBeWrittenChangesNothing) {
         at.apply();
         EXPECT_TRUE(at.panel().isVisible());
         EXPECT_EQ(at.options().DiasBusqueda, before);
+        EXPECT_EQ(at.program->context().ini.value("Admisiones", "dias"), "30");
+        ASSERT_TRUE(blocker.remove());  // gone: it is written anew, with what was read
+        at.messages.expectInformation(kApplied);
+        at.apply();
     });
+    EXPECT_EQ(at.saved("Admisiones", "dias"), "45");
+    EXPECT_EQ(at.saved("Sql", "cliente"), "Firebird");
 }
 
 TEST_F(ControlPanel, ReceiptsAreKeptByTheMenu) {

@@ -121,8 +121,24 @@ void IniFile::setValue(const QString &section, const QString &key, const QString
         lines += u'[' + section + u']';
         lines += key + u'=' + clean;
     }
-    write(lines);
+    if (!together_) {
+        write(lines);
+    }
     lines_ = lines;
+}
+
+void IniFile::writeTogether(const std::function<void()> &call) {
+    const QStringList before = lines_;
+    together_ = true;
+    try {
+        call();
+        write(lines_);
+    } catch (...) {
+        lines_ = before;
+        together_ = false;
+        throw;
+    }
+    together_ = false;
 }
 
 void IniFile::write(const QStringList &lines) const {

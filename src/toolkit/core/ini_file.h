@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace kaldo {
 
 /// A plain ini file: sections in square brackets, lines of key and value. Sections and keys are
@@ -31,6 +33,10 @@ public:
     /// can't be written; the value is then unchanged.
     void setValue(const QString &section, const QString &key, const QString &value);
 
+    /// Runs a call whose setValue() go to the file together, in one write behind the last: all of
+    /// them or, when the call or the write throws, none.
+    void writeTogether(const std::function<void()> &call);
+
 private:
     qsizetype sectionLine(const QString &section) const;
     qsizetype keyLine(qsizetype sectionLine, const QString &key) const;
@@ -38,6 +44,7 @@ private:
 
     QString path_;
     QStringList lines_;
+    bool together_ = false;
 };
 
 }  // namespace kaldo
