@@ -322,7 +322,7 @@ void CataloguePanel::updateButtons() {
         button->setEnabled(consult && rows);
     }
     if (consult && !rules_.small) {
-        context_.frame.setEntryEnabled(QStringLiteral("A1"), rows);
+        context_.frame.setEntryEnabled(QStringLiteral("A1"), rows && rules_.reports);
     }
 }
 

@@ -78,6 +78,8 @@ struct CatalogueRules {
 
     /// A small catalogue inside a screen has no navigator and leaves the preview alone.
     bool small = false;
+    /// False where there is no report: the preview's entry stays disabled.
+    bool reports = true;
 };
 
 /// The list of a catalogue with its buttons: "&Insertar", "&Borrar", "&Grabar", "&Cancelar", the

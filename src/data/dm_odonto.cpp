@@ -145,6 +145,8 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
       BorrarExpediente("BorrarExpediente", "KDBORRAREXPEDIENTE", "num_caja, nota_vta, ciudad"),
       session_(session),
       options_(options) {
+    Listaprecios1.addLookup(QStringLiteral("LKUMedida"), QStringLiteral("unimed"), UMedida,
+                            QStringLiteral("unimed"), QStringLiteral("descr"));
     bindAll({&ControlUsuarios, &ControlUsuarios1, &ControlUsuarios2,  &Usuarios_Mant,
              &Usuarios_Mant1,  &Control,          &ControlExpediente, &ControlExpedientes,
              &TipoCambio,      &TipoCambio1,      &est_caja,          &CtroAtencion,

@@ -1,6 +1,8 @@
 #include "shell/catalogue_screens.h"
 
 #include "catalogues/frm100_care_centres.h"
+#include "catalogues/frm107_price_list.h"
+#include "catalogues/frm110_banks.h"
 
 namespace kaldo {
 
@@ -16,6 +18,8 @@ void add(FRM000 &window, Context &context, const char *entry) {
 
 void registerCatalogues(FRM000 &window, Context &context) {
     add<FRM100>(window, context, "B1");
+    add<FRM107>(window, context, "B9");
+    add<FRM110>(window, context, "B11");
 }
 
 }  // namespace kaldo

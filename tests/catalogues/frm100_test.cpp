@@ -1,47 +1,21 @@
 #include "catalogues/frm100_care_centres.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/accessibility.h"
-#include "tests/support/keys.h"
-#include "tests/support/test_station.h"
+#include "tests/catalogues/catalogue_test.h"
 
 namespace kaldo::test {
 namespace {
 
-const QString kSave = "¿La Información es Correcta?";
-
-class FRM100Test : public ::testing::Test {
+class FRM100Test : public CatalogueTest<FRM100> {
 protected:
-    FRM100Test() { station.logIn("admin"); }
-
-    void open() {
-        screen = std::make_unique<FRM100>(station.context);
-        screen->open();
-        showActive(screen.get());
-        grid()->setFocus();
-        settle();
-    }
-    DataGrid *grid() { return child<CataloguePanel>(screen.get(), "Centros")->grid(); }
-    Button *button(const char *name) {
-        return child<Button>(child<CataloguePanel>(screen.get(), "Centros"), name);
-    }
+    QString panelName() const override { return "Centros"; }
     QVariant stored(const QString &centro, const QString &column) {
-        return valueOf(station.clinic(), "select " + column + " from ctroatencion where centro=:c",
-                       {{"c", centro}});
+        return inClinic("select " + column + " from ctroatencion where centro=:c", {{"c", centro}});
     }
-    void enter(const QString &text) {
-        typeText(text);
-        press(Qt::Key_Return);
-    }
-
-    TestStation station;
-    std::unique_ptr<FRM100> screen;
 };
 
 TEST_F(FRM100Test, CentreIsWrittenByKeysAlone) {
     open();
-    press(Qt::Key_I, Qt::AltModifier);
+    alt(Qt::Key_I);
     EXPECT_TRUE(button("SpeedButton4")->isEnabled());
     EXPECT_FALSE(button("SpeedButton1")->isEnabled());
     enter("z9");
@@ -55,7 +29,7 @@ TEST_F(FRM100Test, CentreIsWrittenByKeysAlone) {
     enter("22000");
     enter("la directora");
     picture(screen.get(), "frm100_insert");
-    station.messages.expectConfirmation(kSave, Answer::Yes);
+    answer(kSave);
     enter("Centro@Escuela.MX");
     station.messages.verify();
     EXPECT_EQ(stored("Z9", "descr").toString(), "CLÍNICA NUEVA");

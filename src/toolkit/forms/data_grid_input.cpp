@@ -14,6 +14,18 @@
 
 namespace kaldo {
 
+namespace {
+
+/// What a cell stores when a row of its list is chosen.
+QVariant valueInList(const GridColumn::Settings &column, int row) {
+    const QAbstractItemModel &list = *column.lookup->model;
+    const QVariant value =
+        list.index(row, fieldSection(list, column.lookup->valueField)).data(Qt::EditRole);
+    return column.mask == CellMask::Integer ? QVariant(value.toLongLong()) : value;
+}
+
+}  // namespace
+
 bool DataGrid::mayEdit(const QModelIndex &index) const {
     const auto column = state_->bySection.constFind(index.column());
     return rowEdit_ && !state_->readOnly && index.isValid() &&
@@ -117,7 +129,7 @@ bool DataGrid::store(QWidget *editor) {
                                QStringLiteral("«%1» no está en la lista.").arg(line->text()), line);
             return false;
         }
-        value = found < 0 ? QVariant() : list->index(found, stored).data(Qt::EditRole);
+        value = found < 0 ? QVariant() : valueInList(column, found);
     } else if (!GridDelegate::read(line->text(), column, &value, &complaint)) {
         line->setProperty("complaint", complaint);
         QToolTip::showText(line->mapToGlobal(line->rect().bottomLeft()), complaint, line);
@@ -183,11 +195,9 @@ void DataGrid::openList() {
 void DataGrid::pickFromList(const QString &field, int sourceRow) {
     const int section = fieldSection(*sourceModel(), field);
     const GridColumn::Settings column = state_->bySection.value(section);
-    const int stored = fieldSection(*column.lookup->model, column.lookup->valueField);
     const QModelIndex target = state_->rows->mapToSource(currentIndex()).siblingAtColumn(section);
     cancelEditor();
-    sourceModel()->setData(
-        target, column.lookup->model->index(sourceRow, stored).data(Qt::EditRole), Qt::EditRole);
+    sourceModel()->setData(target, valueInList(column, sourceRow), Qt::EditRole);
     setFocus(Qt::OtherFocusReason);
     emit cellEdited(field);
     emit closedUp(field, sourceRow);

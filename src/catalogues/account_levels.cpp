@@ -1,0 +1,90 @@
+#include "catalogues/account_levels.h"
+
+#include "toolkit/forms/application.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kaldo {
+
+AccountLevels::AccountLevels(DMFinanzas &finanzas, NamedQuery &row)
+    : levels_{{&finanzas.cgenero, u"GENEROID"_s, u"Genero"_s},
+              {&finanzas.cgrupo, u"GRUPOID"_s, u"Grupo"_s},
+              {&finanzas.crubro, u"CGRUBROID"_s, u"Rubro"_s},
+              {&finanzas.ccuenta, u"CUENTAID"_s, u"Cuenta"_s},
+              {&finanzas.csubcta, u"SUBCTAID"_s, u"Subcta"_s}},
+      row_(row) {}
+
+AccountLevels::~AccountLevels() {
+    for (const Level &level : std::as_const(levels_)) {
+        level.list->setFilter({});
+        level.list->close();
+    }
+}
+
+QList<GridColumn> AccountLevels::columns(bool shown) const {
+    QList<GridColumn> columns;
+    for (const Level &level : levels_) {
+        GridColumn column(level.field, level.title, 6);
+        column.mask(CellMask::Integer)
+            .editable()
+            .strict()
+            .lookup({level.list,
+                     level.field,
+                     level.field,
+                     {{level.field, level.title, 8, CellMask::Integer},
+                      {u"DESCRIPCION"_s, u"Descripción"_s, 44}}});
+        columns += shown ? column : column.hidden();
+    }
+    return columns;
+}
+
+void AccountLevels::follow(CataloguePanel *panel) {
+    connectGuarded(panel->grid(), &DataGrid::cellEdited, panel,
+                   [this](const QString &field) { reopenBelow(field); });
+}
+
+void AccountLevels::reopen() {
+    for (int at = 0; at < levels_.size(); ++at) {
+        openLevel(at);
+    }
+}
+
+void AccountLevels::reopenBelow(const QString &field) {
+    bool below = false;
+    for (int at = 0; at < levels_.size(); ++at) {
+        if (below) {
+            openLevel(at);
+        }
+        below = below || levels_.at(at).field == field;
+    }
+}
+
+void AccountLevels::openLevel(int at) {
+    QList<std::pair<QString, QVariant>> above;
+    for (int upper = 0; upper < at; ++upper) {
+        const QVariant value = row_.value(levels_.at(upper).field);
+        if (value.isValid()) {
+            above += {levels_.at(upper).field, value};
+        }
+    }
+    NamedQuery *list = levels_.at(at).list;
+    list->setFilter([above](const NamedQuery::RowReader &row) {
+        return std::all_of(above.begin(), above.end(), [&row](const auto &level) {
+            return row(level.first).toInt() == level.second.toInt();
+        });
+    });
+    list->open();
+}
+
+QString AccountLevels::nomenclatura(bool withSixth) const {
+    QStringList parts;
+    for (const Level &level : levels_) {
+        parts += row_.text(level.field);
+    }
+    if (withSixth) {
+        parts += row_.text(u"SUBSUBCTAID"_s);
+    }
+    return parts.join(u'.');
+}
+
+}  // namespace kaldo

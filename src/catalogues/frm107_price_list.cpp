@@ -1,0 +1,265 @@
+#include "catalogues/frm107_price_list.h"
+
+#include "catalogues/item_code.h"
+#include "catalogues/lookups.h"
+#include "catalogues/price_list_report.h"
+#include "data/catalogue_texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kaldo {
+
+namespace {
+
+/// The letter is that of a button of the list, which has it.
+void withoutLetter(Button *button) {
+    button->setShortcut({});
+}
+
+}  // namespace
+
+FRM107::FRM107(Context &context) : Screen(context, u"FRM107"_s, u"Lista de Precios"_s) {
+    using namespace form;
+    form::build(this,
+                column({
+                    row({lookup(&area_, u"AreaVentas"_s, u"Área de Ventas"_s)
+                             .source(salesAreas(context.odonto.AreaVenta))
+                             .shown(40)
+                             .with([this](LookupField *field) {
+                                 bindLookup(field, &this->context().odonto.AreaVenta);
+                             })
+                             .closedUp([this] { chooseArea(); }),
+                         stretch(),
+                         button(&borrarLista_, u"BorrarLista"_s, u"&Borrar Lista de Precios"_s)
+                             .icon(u"delete"_s)
+                             .with(withoutLetter)
+                             .disabled()
+                             .clicked([this] { borrarLista(); }),
+                         button(nullptr, u"Duplicados"_s, u"..."_s)
+                             .hint(u"Duplicados"_s)
+                             .accessible(u"Duplicados"_s)
+                             .clicked([this] { toggleDuplicates(); })}),
+                    duplicates(),
+                    catalogue(&panel_, context, u"Precios"_s, prices()),
+                }));
+    panel_->setInsertAllowed(false);
+}
+
+form::Item FRM107::duplicates() {
+    using namespace form;
+    return strip(&duplicados_, u"PanelDuplicados"_s,
+                 {lookup(&ciudad_, u"Ciudad"_s, u"Ciudad"_s)
+                      .source(campuses(context().odonto.CtroAtencion3))
+                      .shown(6)
+                      .closedUp([this] { chooseCampus(); }),
+                  lookup(&areaDestino_, u"AreaDestino"_s, u"Área de Ventas"_s)
+                      .source(salesAreas(context().odonto.AreaVenta2))
+                      .shown(26)
+                      .closedUp([this] { chooseTarget(); }),
+                  lookup(&programa_, u"Programa"_s, u"Programa"_s)
+                      .source(programmes(context().finanzas.Programas1))
+                      .shown(8)
+                      .closedUp([this] { choosePrograma(); }),
+                  button(&generar_, u"Generar"_s, u"&Generar Lista de Precios"_s)
+                      .with(withoutLetter)
+                      .disabled()
+                      .clicked([this] { generarLista(); }),
+                  stretch()})
+        .hidden();
+}
+
+CatalogueRules FRM107::prices() {
+    NamedQuery &items = context().odonto.Listaprecios1;
+    CatalogueRules rules;
+    rules.query = &items;
+    rules.parameters = [this] {
+        return Parameters{{u"tipoprod"_s, context().odonto.AreaVenta.value(u"tipo_prod"_s)}};
+    };
+    rules.keys = {u"codigo"_s};
+    rules.columns = priceColumns();
+    rules.fixedOnEdit = {u"CVE_PROD"_s};
+    rules.editAt = u"DESCR"_s;
+    rules.defaults = [this](NamedQuery &row) {
+        row.set(u"vigente"_s, u"S"_s);
+        row.set(u"tipo_prod"_s, context().odonto.AreaVenta.value(u"tipo_prod"_s));
+    };
+    rules.openRow = [this, &items] {
+        items.edit();
+        context().finanzas.tipodeiva.locate({{u"tipodeiva"_s, items.value(u"tipodeiva"_s)}});
+    };
+    const bool accounts = options().ContabilidadGubernamental;
+    const auto reopening = [](NamedQuery &list) {
+        return [&list] {
+            list.open();
+            return EnterResult::Next;
+        };
+    };
+    rules.enter = {
+        {u"CVE_PROD"_s, [this] { return enterClave(); }},
+        {u"DESCR"_s,
+         [this] {
+             panel_->grid()->setCurrentField(u"VIGENTE"_s);
+             return EnterResult::Stay;
+         }},
+        {u"MENUDEO"_s, [accounts] { return accounts ? EnterResult::Next : EnterResult::Save; }},
+        {u"PROG"_s,
+         [this] {
+             openSubsubcta();
+             return EnterResult::Next;
+         }},
+        {u"SUBSUBCTA"_s, reopening(context().finanzas.tipodeiva)},
+        {u"TIPODEIVA"_s, reopening(context().finanzas.clasificacioniva)},
+        {u"CLAVEPRODSERV"_s, [] { return EnterResult::Save; }},
+    };
+    rules.complete = [this] { return completeRow(); };
+    rules.modeChanged = [this](CatalogueMode mode) {
+        borrarLista_->setEnabled(mode == CatalogueMode::Consult &&
+                                 !context().odonto.Listaprecios1.isEmpty());
+    };
+    return rules;
+}
+
+QList<GridColumn> FRM107::priceColumns() {
+    DMFinanzas &finanzas = context().finanzas;
+    const bool accounts = options().ContabilidadGubernamental;
+    const auto ifAccounts = [accounts](GridColumn column) {
+        return accounts ? column : column.hidden();
+    };
+    return {
+        GridColumn(u"CVE_PROD"_s, u"Clave"_s, 7).mask(CellMask::Integer).editable(),
+        GridColumn(u"DESCR"_s, u"Descripción"_s, 44).limit(150).upper().editable(),
+        GridColumn(u"VIGENTE"_s, u"Vigente"_s, 7).yesNo().editable(),
+        GridColumn(u"LKUMEDIDA"_s, u"Unidad Medida"_s, 14)
+            .lookup({&context().odonto.UMedida,
+                     u"UNIMED"_s,
+                     u"DESCR"_s,
+                     {{u"DESCR"_s, u"Unidad Medida"_s, 20}}})
+            .strict()
+            .editable(),
+        GridColumn(u"MENUDEO"_s, u"Precio"_s, 12).mask(CellMask::MoneyTight).editable(),
+        ifAccounts(GridColumn(u"PROG"_s, u"Programa"_s, 9)
+                       .lookup(programmes(finanzas.Programas))
+                       .strict()
+                       .editable()),
+        ifAccounts(GridColumn(u"SUBSUBCTA"_s, u"Subsubcta"_s, 10)
+                       .mask(CellMask::Integer)
+                       .lookup({&finanzas.csubsubcta,
+                                u"SUBSUBCTAID"_s,
+                                u"SUBSUBCTAID"_s,
+                                {{u"SUBSUBCTAID"_s, u"Subsubcta"_s, 10, CellMask::Integer},
+                                 {u"DESCRIPCION"_s, u"Descripción"_s, 44}}})
+                       .strict()
+                       .editable()),
+        ifAccounts(GridColumn(u"TIPODEIVA"_s, u"Iva"_s, 5)
+                       .mask(CellMask::Integer)
+                       .lookup({&finanzas.tipodeiva,
+                                u"TIPODEIVA"_s,
+                                u"TIPODEIVA"_s,
+                                {{u"TIPODEIVA"_s, u"Iva"_s, 6, CellMask::Integer},
+                                 {u"DESCRIPCION"_s, u"Descripción"_s, 30}}})
+                       .strict()
+                       .editable()),
+        ifAccounts(GridColumn(u"CLASIFICACIONIVA"_s, u"Clasif. Iva"_s, 9)
+                       .mask(CellMask::Integer)
+                       .lookup({&finanzas.clasificacioniva,
+                                u"CLASIFICACIONID"_s,
+                                u"CLASIFICACIONID"_s,
+                                {{u"CLASIFICACIONID"_s, u"Clasif."_s, 8, CellMask::Integer},
+                                 {u"DESCRIPCION"_s, u"Descripción"_s, 30}}})
+                       .strict()
+                       .editable()),
+        ifAccounts(GridColumn(u"CLAVEPRODSERV"_s, u"Clave Prod. Serv."_s, 14)
+                       .mask(CellMask::Integer)
+                       .editable()),
+    };
+}
+
+void FRM107::formCreate() {
+    DMOdonto &odonto = context().odonto;
+    odonto.AreaVenta.open({{u"cd"_s, session().Origen.text()}});
+    odonto.UMedida.open();
+    context().finanzas.Programas.open();
+    odonto.CtroAtencion3.open();
+    context().finanzas.Programas1.open();
+    odonto.Listaprecios1.close();
+}
+
+void FRM107::activated() {
+    panel_->refresh();
+}
+
+bool FRM107::areaChosen() const {
+    return context().odonto.Listaprecios1.isOpen();
+}
+
+void FRM107::chooseArea() {
+    openSubsubcta();
+    context().finanzas.clasificacioniva.open();
+    panel_->reload();
+    panel_->setInsertAllowed(true);
+    moveFocus(panel_->grid());
+}
+
+void FRM107::openSubsubcta() {
+    const NamedQuery &area = context().odonto.AreaVenta;
+    Parameters account;
+    for (const auto &level :
+         {u"generoid"_s, u"grupoid"_s, u"cgrubroid"_s, u"cuentaid"_s, u"subctaid"_s}) {
+        account.append({level, area.value(level)});
+    }
+    context().finanzas.csubsubcta.open(account);
+}
+
+EnterResult FRM107::enterClave() {
+    NamedQuery &row = panel_->query();
+    const int codigo = itemCode(row.integer(u"tipo_prod"_s), row.integer(u"cve_prod"_s));
+    row.set(u"codigo"_s, codigo);
+    if (context().odonto.existe(codigoText(codigo))) {
+        return panel_->refuseWarning(
+            u"cve_prod"_s,
+            u"La clave ya se encuentra registrada para esta área y tipo de servicio, presione "
+            "cualquier tecla para continuar."_s);
+    }
+    panel_->allowSave();
+    return EnterResult::Next;
+}
+
+bool FRM107::completeRow() {
+    NamedQuery &row = panel_->query();
+    const NamedQuery &area = context().odonto.AreaVenta;
+    row.set(u"codigo"_s, itemCode(row.integer(u"tipo_prod"_s), row.integer(u"cve_prod"_s)));
+    row.set(u"nomenclatura"_s,
+            QString(area.text(u"nomenclatura"_s) + u'.' + row.text(u"subsubcta"_s)));
+    row.set(u"porcentajeiva"_s, context().finanzas.tipodeiva.value(u"porcentaje"_s));
+    row.set(u"fecha_mov"_s, context().clock.today());
+    return true;
+}
+
+void FRM107::borrarLista() {
+    const QString question = u"¿Se borrarán todos los productos de esta área, desea proceder?"_s;
+    if (messages().confirm(question) != Answer::Yes) {
+        return;
+    }
+    DMOdonto &odonto = context().odonto;
+    odonto.ejecutar("Listaprecios", borrarPreciosText(odonto.AreaVenta.integer(u"tipo_prod"_s)));
+    panel_->reload();
+    messages().information(
+        u"La información ha sido eliminado correctamente, presione cualquier tecla para continuar."_s,
+        u"Información"_s);
+}
+
+bool FRM107::previewReport() {
+    NamedQuery &items = context().odonto.Listaprecios;
+    items.open({{u"cd"_s, session().Origen.text()}});
+    if (items.isEmpty()) {
+        return true;
+    }
+    previewCatalogue(context(), this, this,
+                     layoutPriceList(catalogueHeading(context()), session().Ciudad,
+                                     priceListRows(items, context().odonto.UMedida),
+                                     options().ContabilidadGubernamental),
+                     windowTitle());
+    return true;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,96 @@
+#include "catalogues/price_list_report.h"
+
+#include <QHash>
+
+#include "toolkit/core/money.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kaldo {
+
+namespace {
+
+using report::Align;
+
+ReportTable priceTable(bool accounts) {
+    QList<ReportColumn> columns = {{u"Clave"_s, 13, Align::Right},
+                                   {u"Descripción"_s, 0},
+                                   {u"Unidad Medida"_s, 26},
+                                   {u"Vigente"_s, 14, Align::Center},
+                                   {u"Precio"_s, 24, Align::Right}};
+    if (accounts) {
+        columns += {{u"Programa"_s, 17},    {u"Subsubcta"_s, 18}, {u"T. Iva"_s, 11},
+                    {u"Clasif. IVA"_s, 13}, {u"Subsubcta"_s, 32}, {u"Clave Prod Serv"_s, 18}};
+    }
+    return ReportTable(columns, catalogueWidth(true));
+}
+
+QStringList priceCells(const PriceListRow &row) {
+    return {row.cveProd,
+            row.descr,
+            row.unidad,
+            row.vigente,
+            formatMoney(row.menudeo),
+            row.prog,
+            row.subsubcta,
+            row.tipodeiva,
+            row.clasificacioniva,
+            row.nomenclatura,
+            row.claveprodserv};
+}
+
+}  // namespace
+
+QList<PriceListRow> priceListRows(NamedQuery &listaprecios, NamedQuery &umedida) {
+    QHash<QString, QString> units;
+    for (int row = 0; row < umedida.count(); ++row) {
+        units.insert(umedida.valueAt(row, u"unimed"_s).toString(),
+                     umedida.valueAt(row, u"descr"_s).toString());
+    }
+    QList<PriceListRow> rows;
+    const int count = listaprecios.count();
+    for (int at = 0; at < count; ++at) {
+        const auto text = [&](const QString &field) {
+            return listaprecios.valueAt(at, field).toString();
+        };
+        PriceListRow row;
+        row.tipoProd = text(u"tipo_prod"_s).toInt();
+        row.area = text(u"descr"_s);
+        row.cveProd = text(u"cve_prod"_s);
+        row.descr = text(u"descr_1"_s);
+        row.unidad = units.value(text(u"unimed"_s));
+        row.vigente = text(u"vigente"_s);
+        row.menudeo = listaprecios.valueAt(at, u"menudeo"_s).toDouble();
+        row.prog = text(u"prog"_s);
+        row.subsubcta = text(u"subsubcta"_s);
+        row.tipodeiva = text(u"tipodeiva"_s);
+        row.clasificacioniva = text(u"clasificacioniva"_s);
+        row.nomenclatura = text(u"nomenclatura"_s);
+        row.claveprodserv = text(u"claveprodserv"_s);
+        rows += row;
+    }
+    return rows;
+}
+
+report::Document layoutPriceList(const CatalogueHeading &heading, const QString &ciudad,
+                                 const QList<PriceListRow> &rows, bool accounts) {
+    report::Layout layout = catalogueLayout(heading, u"Lista de Precios "_s + ciudad, true);
+    const ReportTable table = priceTable(accounts);
+    const PriceListRow *before = nullptr;
+    for (const PriceListRow &row : rows) {
+        const report::Band line = table.row(priceCells(row));
+        if (before == nullptr || before->tipoProd != row.tipoProd) {
+            layout.repeatOnNewPages(std::nullopt);
+            layout.placeTogether(
+                {groupBand(u"Área Venta"_s, u"%1   %2"_s.arg(row.tipoProd).arg(row.area)),
+                 table.titles(), line});
+            layout.repeatOnNewPages(table.titles());
+        } else {
+            layout.place(line);
+        }
+        before = &row;
+    }
+    return layout.finish();
+}
+
+}  // namespace kaldo
