@@ -39,6 +39,8 @@ protected:
 private:
     form::Item general();
     form::Item clientGroup();
+    form::Item workstationGroup();
+    form::Item lookColumn();
     form::Item fiscalGroup();
     form::Item sistema();
     form::Item opciones();

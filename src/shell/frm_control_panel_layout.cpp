@@ -1,6 +1,7 @@
 #include "shell/frm_control_panel.h"
 
 #include "shell/federal_states.h"
+#include "shell/side_by_side.h"
 
 #include <QScreen>
 #include <QScrollArea>
@@ -13,7 +14,7 @@ constexpr int kCodeWidth = 8;
 constexpr int kUserWidth = 8;
 constexpr int kCityWidth = 20;
 constexpr int kTextWidth = 255;
-constexpr int kTextShown = 34;
+constexpr int kTextShown = 28;
 constexpr int kMostDays = 100;
 constexpr int kMostDossiers = 10;
 constexpr int kMostSeconds = 60;
@@ -112,7 +113,17 @@ form::WidgetItem<Button> FRMControlPanel::fold(Button **where, const QString &na
 
 form::Item FRMControlPanel::general() {
     using namespace form;
-    const auto workstation = group(
+    return column({
+        row({label(QStringLiteral("Nombre del Cliente")),
+             label(&Encabezado_, QStringLiteral("Encabezado")).heading().wrap().grow()}),
+        sideBySide(column({clientGroup(), workstationGroup(), stretch()}), lookColumn()),
+        stretch(),
+    });
+}
+
+form::Item FRMControlPanel::workstationGroup() {
+    using namespace form;
+    return group(
         nullptr, QStringLiteral("Estacion"), QStringLiteral("Estación de Trabajo"),
         column({
             sheet_.option(text(nullptr, QStringLiteral("Usuario"), QStringLiteral("Usuario"))
@@ -127,37 +138,32 @@ form::Item FRMControlPanel::general() {
             sheet_.option(tick("CambiarPass", QStringLiteral("Cambiar Contraseña")),
                           &Options::CambiarPass),
         }));
+}
+
+form::Item FRMControlPanel::lookColumn() {
+    using namespace form;
     return column({
-        row({label(QStringLiteral("Nombre del Cliente")),
-             label(&Encabezado_, QStringLiteral("Encabezado")).heading().wrap().grow()}),
-        row({column({clientGroup(), workstation, stretch()}),
-             column({
-                 row({sheet_.option(text(&ArchivoAyuda_, QStringLiteral("ArchivoAyuda"),
-                                         QStringLiteral("Archivo de Ayuda:"))
-                                        .width(kTextWidth)
-                                        .shown(24)
-                                        .grow(),
-                                    &Options::ArchivoAyuda),
-                      button(nullptr, QStringLiteral("ArchivoCHM"), QStringLiteral("Archivo CHM"))
-                          .clicked([this] { chooseHelpFile(); })}),
-                 radio(&Ambiente_, QStringLiteral("Ambiente"),
-                       QStringLiteral("Ambiente del Sistema"))
-                     .options({QStringLiteral("Azul"), QStringLiteral("Oscuro"),
-                               QStringLiteral("Verde")})
-                     .fill(),
-                 sheet_.option(
-                     radio(&Sector_, QStringLiteral("Sector"), QStringLiteral("Sector"))
-                         .options({QStringLiteral("Empresarial"), QStringLiteral("Educativo"),
-                                   QStringLiteral("Institucional")})
-                         .clicked([this](int) { Sector(); })
-                         .fill(),
-                     &Options::sector),
-                 fold(&RfcCliente_, QStringLiteral("RFCCliente"), QStringLiteral("RFC Cliente"),
-                      &DatosFiscales_)
-                     .hint(QStringLiteral("Muestra u oculta los datos fiscales")),
-                 panel(&DatosFiscales_, QStringLiteral("DatosFiscales"), fiscalGroup()),
-                 stretch(),
-             })}),
+        row({sheet_.option(text(&ArchivoAyuda_, QStringLiteral("ArchivoAyuda"),
+                                QStringLiteral("Archivo de Ayuda:"))
+                               .width(kTextWidth)
+                               .shown(20)
+                               .grow(),
+                           &Options::ArchivoAyuda),
+             button(nullptr, QStringLiteral("ArchivoCHM"), QStringLiteral("Archivo CHM"))
+                 .clicked([this] { chooseHelpFile(); })}),
+        radio(&Ambiente_, QStringLiteral("Ambiente"), QStringLiteral("Ambiente del Sistema"))
+            .options({QStringLiteral("Azul"), QStringLiteral("Oscuro"), QStringLiteral("Verde")})
+            .fill(),
+        sheet_.option(radio(&Sector_, QStringLiteral("Sector"), QStringLiteral("Sector"))
+                          .options({QStringLiteral("Empresarial"), QStringLiteral("Educativo"),
+                                    QStringLiteral("Institucional")})
+                          .clicked([this](int) { Sector(); })
+                          .fill(),
+                      &Options::sector),
+        fold(&RfcCliente_, QStringLiteral("RFCCliente"), QStringLiteral("RFC Cliente"),
+             &DatosFiscales_)
+            .hint(QStringLiteral("Muestra u oculta los datos fiscales")),
+        panel(&DatosFiscales_, QStringLiteral("DatosFiscales"), fiscalGroup()),
         stretch(),
     });
 }
@@ -273,7 +279,9 @@ form::Item FRMControlPanel::sistema() {
 
 form::Item FRMControlPanel::opciones() {
     using namespace form;
-    return row({column({admissionsGroup(), stretch()}), column({dossiersGroup(), stretch()})});
+    return column(
+        {sideBySide(column({admissionsGroup(), stretch()}), column({dossiersGroup(), stretch()})),
+         stretch()});
 }
 
 form::Item FRMControlPanel::admissionsGroup() {
@@ -421,13 +429,11 @@ form::Item FRMControlPanel::impresiones() {
                                                        "presentación preliminar.")),
                 &Options::PreliminarHojas),
         }));
-    return column(
-        {receipts, row({column({prints, stretch()}),
-                        column({pages(&PageControl2_, QStringLiteral("PageControl2"),
-                                      {{QStringLiteral("LogoReportes"),
-                                        QStringLiteral("Logo Reportes"), logoPage(0)},
-                                       {QStringLiteral("LogoFacultad"),
-                                        QStringLiteral("Logo Facultad"), logoPage(1)}})})})});
+    const auto logos =
+        pages(&PageControl2_, QStringLiteral("PageControl2"),
+              {{QStringLiteral("LogoReportes"), QStringLiteral("Logo Reportes"), logoPage(0)},
+               {QStringLiteral("LogoFacultad"), QStringLiteral("Logo Facultad"), logoPage(1)}});
+    return column({receipts, sideBySide(column({prints, stretch()}), logos)});
 }
 
 form::Item FRMControlPanel::logoPage(int logo) {
