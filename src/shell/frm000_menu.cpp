@@ -1,18 +1,16 @@
 #include "shell/frm000_main_window.h"
 
 #include "shell/backdrop.h"
+#include "shell/help_window.h"
 #include "shell/menu_entries.h"
 #include "shell/side_bar.h"
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
 
 #include <QActionGroup>
-#include <QDesktopServices>
-#include <QFile>
 #include <QMenuBar>
 #include <QSet>
 #include <QToolBar>
-#include <QUrl>
 
 namespace kaldo {
 
@@ -228,14 +226,12 @@ void FRM000::FiltroAdmision(const QString &entry, AdmissionFilter filter) {
 }
 
 void FRM000::showHelp() {
-    const QString manual =
-        context_.installation.map(QStringLiteral("C:\\KALDO\\HelpFile\\KALDO.html"));
-    if (!QFile::exists(manual)) {
-        context_.messages.information(
-            QStringLiteral("El manual de ayuda no está instalado en esta estación."));
-        return;
+    auto *help = findChild<HelpWindow *>();
+    if (help == nullptr) {
+        help = new HelpWindow(this);
     }
-    QDesktopServices::openUrl(QUrl::fromLocalFile(manual));
+    const Screen *screen = childScreen();
+    help->showPage(screen != nullptr ? screen->objectName() : objectName());
 }
 
 }  // namespace kaldo

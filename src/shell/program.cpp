@@ -5,6 +5,7 @@
 #include "payments/frm401_3_payment_form.h"
 #include "payments/frm401_payment_note.h"
 #include "people/frm_alumnos_student_choice.h"
+#include "shell/catalogue_screens.h"
 #include "shell/frm_acceso_login.h"
 #include "shell/frm_control_panel.h"
 #include "shell/frm_inicio_splash.h"
@@ -209,6 +210,7 @@ void Program::registerScreens() {
                      [&parts] { return std::make_unique<FRM405>(parts.context); });
     window.setHandler(QStringLiteral("A3"),
                       [&parts, &window] { parts.panel->openFromMenu(window.childScreen()); });
+    registerCatalogues(window, parts.context);
     window.setHandler(QStringLiteral("J1"), [&parts] { parts.login->openFromMenu(); });
     window.setHandler(QStringLiteral("K2"), [&parts] {
         if (parts.update.run(UpdateCheck::Asked::FromMenu)) {

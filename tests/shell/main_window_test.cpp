@@ -1,3 +1,4 @@
+#include "shell/help_window.h"
 #include "tests/shell/shell_station.h"
 
 #include "shell/menu_entries.h"
@@ -173,17 +174,29 @@ TEST(MainWindow, EntriesSayWhatIsNotBuiltAndDoNothingWhereNothingIsTold) {
     ShellStation station;
     station.logIn("admin", "admin");
     station.messages.expectInformation(QStringLiteral(
-        "La pantalla «Centros de atención» todavía no está disponible en esta versión."));
-    station.window().openEntry("B1");
+        "La pantalla «Registro de Admisión» todavía no está disponible en esta versión."));
+    station.window().openEntry("D1");
     station.window().openEntry("J3");
     station.window().openEntry("H2a");
     station.window().openEntry("C1");  // disabled for this profile
     station.messages.expectError(QStringLiteral("La pantalla de abonos no está abierta."));
     station.window().openEntry("E7");
-    station.messages.expectInformation(
-        QStringLiteral("El manual de ayuda no está instalado en esta estación."));
-    station.window().openEntry("K1");
     settle();
+}
+
+TEST(MainWindow, HelpOpensAtThePageOfTheOpenScreen) {
+    ShellStation station;
+    station.logIn("admin", "admin");
+    press(Qt::Key_F1);
+    auto *help = child<HelpWindow>(&station.window(), "Ayuda");
+    EXPECT_EQ(help->page(), "frm000.html");
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(help->isVisible());
+    station.window().openEntry("B1");
+    settle();
+    press(Qt::Key_F1);
+    EXPECT_EQ(help->page(), HelpWindow::hasPage("FRM100") ? "frm100.html" : "index.html");
+    picture(help, "help");
 }
 
 TEST(MainWindow, HeadingsHaveTheirLettersForThemselves) {
