@@ -115,7 +115,11 @@ void CataloguePanel::insert() {
     if (editing() || (rules_.prepareInsert && !rules_.prepareInsert())) {
         return;
     }
-    rules_.query->append();
+    if (rules_.insertsFirst) {
+        rules_.query->insertFirst();
+    } else {
+        rules_.query->append();
+    }
     if (rules_.defaults) {
         rules_.defaults(*rules_.query);
     }

@@ -49,6 +49,8 @@ struct CatalogueRules {
 
     /// False: "&Insertar" does nothing. Runs before the row is appended.
     std::function<bool()> prepareInsert;
+    /// True: a new row stands above the others, else below them.
+    bool insertsFirst = false;
     /// Fills what a new row begins with.
     std::function<void(NamedQuery &row)> defaults;
     /// Opens the current row; else query->edit().

@@ -341,23 +341,38 @@ void NamedQuery::edit() {
 }
 
 void NamedQuery::append() {
+    prepareInsert();
+    count();
+    insertAt(static_cast<int>(rows_.size()));
+}
+
+void NamedQuery::insertFirst() {
+    prepareInsert();
+    insertAt(0);
+}
+
+void NamedQuery::prepareInsert() {
     if (!isOpen()) {
         throw std::logic_error((name() + QLatin1String(" is closed")).toStdString());
     }
     if (state_ != State::Browsing) {
         post();
     }
-    count();
-    const int row = static_cast<int>(rows_.size());
     if (pending_) {
         apply();
     }
+}
+
+void NamedQuery::insertAt(int row) {
     beginInsertRows({}, row, row);
-    rows_.emplace_back(columns_.size());
+    const auto inserted = rows_.emplace(rows_.begin() + row, columns_.size());
+    beforeEdit_ = *inserted;
+    if (current_ >= row) {
+        ++current_;
+    }
     endInsertRows();
     setCurrent(row);
     beginPending(Pending::Kind::Insert, row);
-    beforeEdit_ = rows_.back();
     setState(State::Inserting);
 }
 

@@ -105,6 +105,8 @@ public:
 
     void edit();
     void append();
+    /// Like append(), but the new row stands above all others.
+    void insertFirst();
     /// Sets a field of the row that is open for edit; opens it where none is.
     void set(const QString &field, const QVariant &value);
     void post();
@@ -167,6 +169,8 @@ private:
     void setState(State state);
     void setCurrent(int row);
     void beginPending(Pending::Kind kind, int row);
+    void prepareInsert();
+    void insertAt(int row);
     void undo(const Pending &pending);
     Statement insertStatement(Parameters *values);
     Statement updateStatement(Parameters *values) const;

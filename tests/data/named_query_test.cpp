@@ -69,6 +69,32 @@ TEST_F(NamedQueryTest, AnInsertWritesOnlyWhatWasAssigned) {
     EXPECT_EQ(stored().last(), QVariantList({7, "nada", QVariant()})) << "the default stands";
 }
 
+TEST_F(NamedQueryTest, ARowInsertedFirstStandsAboveTheOthersAndLeavesThemAsTheyWere) {
+    query.open({{"tipo", 96}});
+    query.moveTo(1);
+    query.set("cant", 9);
+    QSignalSpy moved(&query, &NamedQuery::cursorMoved);
+    query.insertFirst();
+    EXPECT_EQ(stored()[1], QVariantList({2, "linea 2", 9})) << "what was open is written";
+    ASSERT_EQ(moved.size(), 1);
+    EXPECT_EQ(moved[0][0].toInt(), 0);
+    EXPECT_TRUE(query.isNull("clave"));
+    EXPECT_EQ(query.valueAt(1, "clave").toInt(), 1);
+    query.cancelUpdates();
+    EXPECT_EQ(query.count(), 3);
+    EXPECT_EQ(query.integer("clave"), 1);
+
+    query.insertFirst();
+    query.set("tipo", 96);
+    query.set("clave", 0);
+    query.apply();
+    query.moveTo(3);
+    query.set("texto", "otra");
+    query.apply();
+    EXPECT_EQ(stored().first(), QVariantList({0, "nada", QVariant()}));
+    EXPECT_EQ(stored().last(), QVariantList({3, "otra", 1}));
+}
+
 TEST_F(NamedQueryTest, ARowThatTheDatabaseRefusesStaysPending) {
     query.open({{"tipo", 96}});
     query.append();
