@@ -2,6 +2,7 @@
 
 #include "cashdesk/frm405_cash_cut.h"
 #include "cashdesk/frm801_incomplete_receipts.h"
+#include "data/module_lookups.h"
 #include "payments/frm401_3_payment_form.h"
 #include "payments/frm401_payment_note.h"
 #include "people/frm_alumnos_student_choice.h"
@@ -56,6 +57,7 @@ struct Program::Parts {
           update(context, settings.update),
           countDown(settings.countDown) {
         conexion.setSeam(settings.seam);
+        linkModules(odonto, caja, finanzas);
     }
     ~Parts() {
         // A screen refers to resident dialogs, which go before the window.

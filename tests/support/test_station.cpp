@@ -1,5 +1,6 @@
 #include "tests/support/test_station.h"
 
+#include "data/module_lookups.h"
 #include "toolkit/forms/application.h"
 
 namespace kaldo::test {
@@ -21,6 +22,7 @@ TestStation::TestStation(const QString &root)
       escolares(conexion),
       context{files, clock,    ini,   session, options, messages, fileDialogs, printing,
               frame, conexion, local, odonto,  caja,    finanzas, escolares} {
+    linkModules(odonto, caja, finanzas);
     session.ClienteSql = ini.value("Sql", "cliente");
     session.AnioActual = static_cast<qint16>(clock.today().year());
     options.load(ini);
