@@ -4,6 +4,7 @@
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/choice.h"
 #include "toolkit/forms/data_grid.h"
+#include "toolkit/forms/date_field.h"
 #include "toolkit/forms/line_field.h"
 #include "toolkit/forms/lookup_field.h"
 
@@ -93,6 +94,21 @@ void bindField(MaskedField *field, NamedQuery *query, const QString &column) {
     });
     connectGuarded(field, &QLineEdit::textEdited, field,
                    [field, write](const QString &) { write(field->maskedText()); });
+}
+
+void bindField(DateField *field, NamedQuery *query, const QString &column) {
+    const auto write = follow(field, query, column,
+                              [field](const QVariant &value) { field->setDate(value.toDate()); });
+    connectGuarded(field, &QLineEdit::textEdited, field, [field, write](const QString &text) {
+        if (field->date().isValid()) {
+            write(field->date());
+        } else if (text.isEmpty()) {
+            write(QVariant());
+        }
+    });
+    connectGuarded(field, &DateField::dateEdited, field, [write](const QDate &date) {
+        write(date.isValid() ? QVariant(date) : QVariant());
+    });
 }
 
 void bindField(CheckField *field, NamedQuery *query, const QString &column) {

@@ -4,6 +4,7 @@ namespace kaldo {
 
 class CheckField;
 class DataGrid;
+class DateField;
 class LookupField;
 class MaskedField;
 class NamedQuery;
@@ -22,6 +23,8 @@ void bindLookup(LookupField *field, NamedQuery *query);
 void bindField(TextField *field, NamedQuery *query, const QString &column);
 void bindField(NumberField *field, NamedQuery *query, const QString &column);
 void bindField(MaskedField *field, NamedQuery *query, const QString &column);
+/// A text that is no date, or not yet, leaves the row's date as it was.
+void bindField(DateField *field, NamedQuery *query, const QString &column);
 /// "S" and "N".
 void bindField(CheckField *field, NamedQuery *query, const QString &column);
 /// The column holds the value field of the drop-down's source.

@@ -161,12 +161,22 @@ void CataloguePanel::setInsertAllowed(bool allowed) {
 }
 
 void CataloguePanel::save() {
-    if (!editing() || !grid_->commitEditor() || (rules_.accept && !rules_.accept())) {
+    if (!editing() || !commitInput() || (rules_.accept && !rules_.accept())) {
         return;
     }
     const Answer answer = context_.messages.confirm(rules_.saveQuestion);
     if (answer == Answer::No) {
         if (rules_.saveRefused) {
+bool CataloguePanel::commitInput() {
+    for (Field *field : std::as_const(details_)) {
+        if (!field->commit()) {
+            moveFocus(field->fieldWidget());
+            return false;
+        }
+    }
+    return grid_->commitEditor();
+}
+
             rules_.saveRefused();
         }
         cancel();

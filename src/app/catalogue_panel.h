@@ -154,6 +154,8 @@ private:
     Parameters keyValues() const;
     void writeRow();
     void go(int row);
+    /// False while a cell or a detail field holds what it can't take; it has told so.
+    bool commitInput();
     void shareLetters();
     void setLetters(bool on);
 

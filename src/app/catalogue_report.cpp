@@ -35,6 +35,7 @@ void paintHead(Band &band, const CatalogueHeading &heading, const QString &title
     band.text({kSide, 13.5, middle, 6}, title, centred.size(11).bold());
     const Style aside = Style().right().size(9);
     band.text({width - kSide, 0, kSide, kLine},
+    band.text({kSide, 18.1, middle, 3.8}, heading.linea, centred.size(9));
               QStringLiteral("Fecha: ") + formatDate(heading.fecha), aside);
     band.text({width - kSide, kLine, kSide, kLine},
               QStringLiteral("No. página: %1").arg(page.number), aside);

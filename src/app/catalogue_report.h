@@ -15,6 +15,7 @@ struct CatalogueHeading {
     QDate fecha;
     QString logoPath;
     int anioActual = 0;
+    QString linea;  ///< under the title; empty for none
 };
 
 CatalogueHeading catalogueHeading(const Context &context);
