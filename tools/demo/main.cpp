@@ -5,6 +5,7 @@
 
 #include "shell/program.h"
 #include "toolkit/forms/application.h"
+#include "tools/demo/manual_pictures.h"
 #include "tools/demo/road.h"
 
 namespace {
@@ -62,12 +63,15 @@ int main(int argc, char **argv) {
     if (action == QLatin1String("play")) {
         return play(argc, argv, QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
     }
+    if (action == QLatin1String("pictures")) {
+        return kaldo::takeManualPictures(argc, argv);
+    }
     if (action == QLatin1String("summary")) {
         const QCoreApplication application(argc, argv);
         return kaldo::writeSummary(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]))
                    ? 0
                    : kFailed;
     }
-    std::cerr << "usage: kaldo-demo play|summary ROOT DIR\n";
+    std::cerr << "usage: kaldo-demo play|summary|pictures ROOT DIR\n";
     return kUsage;
 }
