@@ -81,6 +81,7 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
                      "a.responsable,c.ciudad,c.descr from areatencion a, ctroatencion c where "
                      "c.ciudad=:cd and a.centro=c.centro order by a.centro,a.tipo_prod,a.area"}),
       Prestaciones({"Prestaciones", "select * from prestaciones", "prestaciones", "prestacion"}),
+      Prestaciones1({"Prestaciones1", "select * from prestaciones where prestacion=:prestacion"}),
       ClasifServicios({"ClasifServicios",
                        "SELECT * FROM Clasifservicios where ciudad=:cd and tipo_prod=:tipo_prod",
                        "clasifservicios", "ciudad,tipo_prod"}),
@@ -147,6 +148,7 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
       options_(options) {
     Listaprecios1.addLookup(QStringLiteral("LKUMedida"), QStringLiteral("unimed"), UMedida,
                             QStringLiteral("unimed"), QStringLiteral("descr"));
+    addClassDescriptions();
     bindAll({&ControlUsuarios, &ControlUsuarios1, &ControlUsuarios2,  &Usuarios_Mant,
              &Usuarios_Mant1,  &Control,          &ControlExpediente, &ControlExpedientes,
              &TipoCambio,      &TipoCambio1,      &est_caja,          &CtroAtencion,
@@ -154,13 +156,36 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
              &AreaVenta,       &AreaVenta2,       &AreaVenta3,        &AreaVentaT,
              &ConsultaAreas,   &ServxCtro,        &ServxCtro1,        &ServxCtro2,
              &ServxCtroR,      &AreaAtencion,     &AreaAtencionR,     &Prestaciones,
-             &ClasifServicios, &ClasifServiciosR, &Prestacionxserv,   &LabExterno,
-             &Listaprecios,    &Listaprecios1,    &Listaprecios3,     &UMedida,
-             &TipoForma,       &Metodopagocfdi,   &serviciosxctros,   &CargarExp,
-             &AdmisionNota});
+             &Prestaciones1,   &ClasifServicios,  &ClasifServiciosR,  &Prestacionxserv,
+             &LabExterno,      &Listaprecios,     &Listaprecios1,     &Listaprecios3,
+             &UMedida,         &TipoForma,        &Metodopagocfdi,    &serviciosxctros,
+             &CargarExp,       &AdmisionNota});
     bindAll({&registra_admision_p, &registra_datosgenerales_p, &registra_antecedentes_p,
              &BorrarAdmision, &BorrarExpediente});
     bindAll({&CambiaPass});
+}
+
+void DMOdonto::addClassDescriptions() {
+    // Thousands of classes refer to a few: each is read once per opening.
+    const auto known = std::make_shared<QHash<int, QVariant>>();
+    QObject::connect(&Prestaciones, &NamedQuery::modelAboutToBeReset, &Prestaciones,
+                     [known] { known->clear(); });
+    Prestaciones.addCalculated(
+        QStringLiteral("Descrip"), [this, known](const NamedQuery::RowReader &row) -> QVariant {
+            bool isClass = false;
+            const int prestacion =
+                row(QStringLiteral("beneficiario")).toString().trimmed().toInt(&isClass);
+            if (isClass && !known->contains(prestacion)) {
+                Prestaciones1.open({{QStringLiteral("prestacion"), prestacion}});
+                known->insert(prestacion, Prestaciones1.value(QStringLiteral("descripcion")));
+            }
+            return isClass ? known->value(prestacion) : QVariant();
+        });
+    ClasifServicios.addCalculated(QStringLiteral("CLDescr"), [this](const NamedQuery::RowReader &) {
+        return QVariant(session_.ClasifDescr.text());
+    });
+    Prestacionxserv.addLookup(QStringLiteral("CLDescr"), QStringLiteral("prestacion"), Prestaciones,
+                              QStringLiteral("prestacion"), QStringLiteral("descripcion"));
 }
 
 void DMOdonto::FolioAdm() {

@@ -48,6 +48,7 @@ public:
 
     // Who pays what
     NamedQuery Prestaciones;
+    NamedQuery Prestaciones1;
     NamedQuery ClasifServicios;
     NamedQuery ClasifServiciosR;
     NamedQuery Prestacionxserv;
@@ -84,6 +85,8 @@ public:
     void FolioExp();
 
 private:
+    void addClassDescriptions();
+
     const Session &session_;
     const Options &options_;
 };

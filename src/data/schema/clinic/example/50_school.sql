@@ -151,12 +151,12 @@ insert into unidadmedida (unimed, descr) values (5, 'SESION');
 insert into labexternos (subsubcta, prog, descr, domicilio, colonia, ciudad, telefono, correo,
                          responsable, nomenclatura, activo, rfc, cp, tipo_prod, campus)
 values (301, 12510, 'LABORATORIO DENTAL DEL VALLE', 'CALLE MORELOS 410', 'CENTRO', 'VALLE NORTE',
-        '(686)555-0201', 'valle@laboratorio.example', 'T.D. JORGE NAVA', '4.1.7.4.1.301', 'S',
+        '(686)555-0201', 'valle@laboratorio.example', 'T.D. JORGE NAVA', '2.1.1.9.1.301', 'S',
         'LDV990312AA1', 21100, 7, 'VAN');
 insert into labexternos (subsubcta, prog, descr, domicilio, colonia, ciudad, telefono, correo,
                          responsable, nomenclatura, activo, rfc, cp, tipo_prod, campus)
 values (302, 12510, 'CERAMICA Y PROTESIS NORTE', 'CALLE ALDAMA 77', 'NUEVA', 'VALLE NORTE',
-        '(686)555-0202', 'norte@laboratorio.example', 'T.D. ALMA RIOS', '4.1.7.4.1.302', 'S',
+        '(686)555-0202', 'norte@laboratorio.example', 'T.D. ALMA RIOS', '2.1.1.9.1.302', 'S',
         'CPN050820BB2', 21120, 7, 'VAN');
 
 -- The accounts as finance has them.

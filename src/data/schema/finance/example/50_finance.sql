@@ -1,13 +1,17 @@
 -- What the university's finance knows of the example school.
 
 insert into cg_genero values (1, 'ACTIVO');
+insert into cg_genero values (2, 'PASIVO');
 insert into cg_genero values (4, 'INGRESOS');
 insert into cg_grupo values (1, 1, 'ACTIVO CIRCULANTE');
+insert into cg_grupo values (2, 1, 'PASIVO CIRCULANTE');
 insert into cg_grupo values (4, 1, 'INGRESOS PROPIOS');
 insert into cg_rubro values (1, 1, 1, 'EFECTIVO Y EQUIVALENTES');
+insert into cg_rubro values (2, 1, 1, 'CUENTAS POR PAGAR A CORTO PLAZO');
 insert into cg_rubro values (4, 1, 7, 'INGRESOS POR VENTA DE SERVICIOS');
 insert into cg_cuenta values (1, 1, 1, 1, 'CAJA');
 insert into cg_cuenta values (1, 1, 1, 2, 'BANCOS');
+insert into cg_cuenta values (2, 1, 1, 9, 'LABORATORIOS EXTERNOS POR PAGAR');
 insert into cg_cuenta values (4, 1, 7, 1, 'ADMISIONES Y EXPEDIENTES');
 insert into cg_cuenta values (4, 1, 7, 2, 'SERVICIOS DE CLINICA');
 insert into cg_cuenta values (4, 1, 7, 3, 'ESPECIALIDADES');
@@ -20,6 +24,10 @@ select generoid, grupoid, cgrubroid, cuentaid, 1,
 insert into cg_matrizdi
 select generoid, grupoid, cgrubroid, cuentaid, subctaid from cg_subcta;
 
+insert into cg_subsubcta values (2, 1, 1, 9, 1, 301, '2.1.1.9.1.301', 'LABORATORIO DENTAL DEL VALLE');
+insert into cg_subsubcta values (2, 1, 1, 9, 1, 302, '2.1.1.9.1.302', 'CERAMICA Y PROTESIS NORTE');
+insert into cg_subsubcta values (2, 1, 1, 9, 1, 303, '2.1.1.9.1.303', 'PROTESIS DE LA BAHIA');
+insert into cg_subsubcta values (2, 1, 1, 9, 1, 304, '2.1.1.9.1.304', 'ORTODONCIA Y APARATOS DEL NORTE');
 insert into cg_subsubcta values (4, 1, 7, 1, 1, 101, '4.1.7.1.1.101', 'ADMISION Y EXPEDIENTE');
 insert into cg_subsubcta values (4, 1, 7, 2, 1, 201, '4.1.7.2.1.201', 'CLINICAS DE LICENCIATURA');
 insert into cg_subsubcta values (4, 1, 7, 3, 1, 251, '4.1.7.3.1.251', 'CLINICAS DE ESPECIALIDAD');
