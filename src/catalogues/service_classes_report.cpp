@@ -1,0 +1,114 @@
+#include "catalogues/service_classes_report.h"
+
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace kaldo {
+
+namespace {
+
+using report::Align;
+using report::Band;
+
+constexpr double kPixel = 25.4 / 96;
+constexpr double kAreaAlone = 70 * kPixel;
+constexpr double kAreaWithClasses = 96 * kPixel;
+constexpr double kIndent = 6;
+
+Band centreHead(const ServiceClassLine &row) {
+    return groupBand(u"Centro de Atención"_s, row.centro + u"   "_s + row.centroDescr);
+}
+
+ReportTable rulesTable() {
+    return ReportTable({{u"Edad Minima"_s, 32, Align::Center},
+                        {u"Edad Maxima"_s, 32, Align::Center},
+                        {u"Aplica Anticipo"_s, 34, Align::Center},
+                        {u"Aplica Descuento"_s, 36, Align::Center},
+                        {u"Requiere Edad"_s, 0, Align::Center}},
+                       catalogueWidth());
+}
+
+ReportTable classTable(const QString &title) {
+    return ReportTable({{title, 0}, {u"Porcentaje Descuento"_s, 44, Align::Right}},
+                       catalogueWidth());
+}
+
+/// The area, its rules, and the titles of its classes where it has any.
+std::vector<Band> areaHead(const ServiceClassLine &row) {
+    std::vector<Band> bands = {
+        groupBand(u"Area de Atención"_s, row.tipoProd + u"   "_s + row.areaDescr, kIndent),
+        rulesTable().titles(),
+        rulesTable().row(
+            {row.edadMin, row.edadMax, row.aplicaAnticipo, row.aplicaDesc, row.requiereEdad})};
+    if (row.prestacion != 0) {
+        bands.push_back(classTable(u"Prestación"_s).titles());
+    }
+    const double height =
+        std::accumulate(bands.begin(), bands.end(), 0.0,
+                        [](double sum, const Band &band) { return sum + band.height(); });
+    const double wanted = row.prestacion != 0 ? kAreaWithClasses : kAreaAlone;
+    bands.back().growTo(bands.back().height() + wanted - height);
+    return bands;
+}
+
+Band classLine(const ServiceClassLine &row) {
+    return classTable({}).row(
+        {u"%1   %2"_s.arg(row.prestacion).arg(row.prestacionDescr), row.porcent + u" %"_s});
+}
+
+}  // namespace
+
+QList<ServiceClassLine> serviceClassLines(NamedQuery &clasifServiciosR) {
+    QList<ServiceClassLine> lines;
+    const int count = clasifServiciosR.count();
+    for (int at = 0; at < count; ++at) {
+        const auto text = [&](const QString &field) {
+            return clasifServiciosR.valueAt(at, field).toString();
+        };
+        ServiceClassLine line;
+        line.centro = text(u"centro"_s);
+        line.centroDescr = text(u"descr_1"_s);
+        line.tipoProd = text(u"tipo_prod"_s);
+        line.areaDescr = text(u"descr"_s);
+        line.edadMin = text(u"edadmin"_s);
+        line.edadMax = text(u"edadmax"_s);
+        line.aplicaAnticipo = text(u"aplica_anticipo"_s);
+        line.aplicaDesc = text(u"aplicadesc"_s);
+        line.requiereEdad = text(u"requiere_edad"_s);
+        line.prestacion = text(u"prestacion"_s).toInt();
+        line.prestacionDescr = text(u"descripcion"_s);
+        line.porcent = text(u"porcent"_s);
+        lines += line;
+    }
+    return lines;
+}
+
+report::Document layoutServiceClasses(const CatalogueHeading &heading,
+                                      const QList<ServiceClassLine> &rows) {
+    report::Layout layout = catalogueLayout(heading, u"Clasificación de Servicios Prestados"_s);
+    const ServiceClassLine *before = nullptr;
+    for (const ServiceClassLine &row : rows) {
+        if (before != nullptr && before->sameArea(row)) {
+            layout.place(classLine(row));
+            continue;
+        }
+        std::vector<Band> start = areaHead(row);
+        if (row.prestacion != 0) {
+            start.push_back(classLine(row));
+        }
+        if (before == nullptr || before->centro != row.centro) {
+            layout.repeatOnNewPages(std::nullopt);
+            start.insert(start.begin(), centreHead(row));
+        } else {
+            layout.repeatOnNewPages(centreHead(row));
+        }
+        layout.placeTogether(start);
+        layout.repeatOnNewPages(
+            classTable(u"%1   %2, Prestación"_s.arg(row.tipoProd, row.areaDescr)).titles());
+        before = &row;
+    }
+    return layout.finish();
+}
+
+}  // namespace kaldo
