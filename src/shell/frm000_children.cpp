@@ -4,6 +4,7 @@
 #include "shell/menu_entries.h"
 #include "shell/side_bar.h"
 #include "toolkit/forms/application.h"
+#include "toolkit/forms/focus.h"
 
 #include <QAbstractButton>
 #include <QKeySequence>
@@ -32,6 +33,18 @@ QSet<QKeySequence> mnemonicsOf(const QWidget *screen) {
     }
     letters -= QKeySequence();
     return letters;
+}
+
+/// Where the keys go in a screen that asks for no field: its first field or list, not a button.
+QWidget *firstField(QWidget *screen) {
+    for (QWidget *at = screen->nextInFocusChain(); at != screen && screen->isAncestorOf(at);
+         at = at->nextInFocusChain()) {
+        if ((at->focusPolicy() & Qt::TabFocus) != 0 && at->isEnabled() && at->isVisibleTo(screen) &&
+            qobject_cast<QAbstractButton *>(at) == nullptr) {
+            return at;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -77,6 +90,10 @@ void FRM000::openScreen(const ScreenMaker &maker) {
         window, &QObject::destroyed, sideBar_, [this] { childGone(); }, Qt::QueuedConnection);
     place(window);
     shareMnemonics(screen);
+    // A menu gives the focus back to where it was, which may be nowhere.
+    if (QWidget *field = firstField(screen)) {
+        moveFocus(field);
+    }
     screen->open();
 }
 
