@@ -112,7 +112,11 @@ Parameters CataloguePanel::keyValues() const {
 }
 
 void CataloguePanel::insert() {
-    if (editing() || (rules_.prepareInsert && !rules_.prepareInsert())) {
+    if (editing()) {
+        return;
+    }
+    if (rules_.prepareInsert && !rules_.prepareInsert()) {
+        moveFocus(grid_);
         return;
     }
     if (rules_.insertsFirst) {
@@ -160,13 +164,6 @@ void CataloguePanel::setInsertAllowed(bool allowed) {
     updateButtons();
 }
 
-void CataloguePanel::save() {
-    if (!editing() || !commitInput() || (rules_.accept && !rules_.accept())) {
-        return;
-    }
-    const Answer answer = context_.messages.confirm(rules_.saveQuestion);
-    if (answer == Answer::No) {
-        if (rules_.saveRefused) {
 bool CataloguePanel::commitInput() {
     for (Field *field : std::as_const(details_)) {
         if (!field->commit()) {
@@ -177,6 +174,13 @@ bool CataloguePanel::commitInput() {
     return grid_->commitEditor();
 }
 
+void CataloguePanel::save() {
+    if (!editing() || !commitInput() || (rules_.accept && !rules_.accept())) {
+        return;
+    }
+    const Answer answer = context_.messages.confirm(rules_.saveQuestion);
+    if (answer == Answer::No) {
+        if (rules_.saveRefused) {
             rules_.saveRefused();
         }
         cancel();
@@ -195,6 +199,7 @@ bool CataloguePanel::commitInput() {
             cancel();
         } else {
             rules_.query->edit();
+            moveFocus(grid_);
         }
         throw;
     }
