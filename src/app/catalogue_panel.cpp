@@ -129,6 +129,7 @@ void CataloguePanel::insert() {
     }
     inserting_ = true;
     saveAllowed_ = false;
+    removeAllowed_ = false;
     setMode(CatalogueMode::Edit);
     editAt(rules_.insertAt);
 }
@@ -144,6 +145,7 @@ void CataloguePanel::edit() {
         rules_.query->edit();
     }
     saveAllowed_ = true;
+    removeAllowed_ = false;
     setMode(CatalogueMode::Edit);
     editAt(rules_.editAt);
 }
@@ -156,6 +158,11 @@ void CataloguePanel::editAt(const QString &wanted) {
 
 void CataloguePanel::allowSave() {
     saveAllowed_ = true;
+    updateButtons();
+}
+
+void CataloguePanel::allowRemove() {
+    removeAllowed_ = inserting();
     updateButtons();
 }
 
@@ -236,22 +243,26 @@ void CataloguePanel::cancel() {
 }
 
 void CataloguePanel::remove() {
-    if (editing() || rules_.query->position() < 0) {
+    if ((editing() && !removeAllowed_) || rules_.query->position() < 0) {
         return;
     }
     const Answer answer = context_.messages.confirm(rules_.removeQuestion);
-    if (answer == Answer::No) {
-        if (rules_.removeRefused) {
-            rules_.removeRefused();
-        }
+    if (answer == Answer::Ended) {
+        return;
+    }
+    if (answer == Answer::No && rules_.removeRefused) {
+        rules_.removeRefused();
+    }
+    if (editing()) {
+        cancel();
+    } else if (answer == Answer::No) {
         refresh();
+    } else if (!rules_.mayRemove || rules_.mayRemove()) {
+        removeRow();
     }
-    if (answer != Answer::Yes) {
-        return;
-    }
-    if (rules_.mayRemove && !rules_.mayRemove()) {
-        return;
-    }
+}
+
+void CataloguePanel::removeRow() {
     const int row = rules_.query->position();
     try {
         if (rules_.remove) {
@@ -334,7 +345,7 @@ void CataloguePanel::updateButtons() {
     const bool consult = !editing();
     const bool rows = !rules_.query->isEmpty();
     insert_->setEnabled(consult && insertAllowed_ && rules_.query->isOpen());
-    remove_->setEnabled(consult && rows);
+    remove_->setEnabled(consult ? rows : removeAllowed_);
     save_->setEnabled(editing() && saveAllowed_);
     cancel_->setEnabled(editing());
     for (IconButton *button : std::as_const(navigator_)) {
@@ -372,6 +383,10 @@ void CataloguePanel::setLetters(bool on) {
     for (Button *button : {insert_, remove_, save_, cancel_}) {
         button->setShortcut(on ? QKeySequence::mnemonic(button->text()) : QKeySequence());
     }
+}
+
+void withoutLetter(Button *button) {
+    button->setShortcut({});
 }
 
 form::WidgetItem<CataloguePanel> catalogue(CataloguePanel **where, Context &context,

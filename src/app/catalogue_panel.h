@@ -116,6 +116,8 @@ public:
     bool inserting() const { return editing() && inserting_; }
     /// "&Grabar" can be pressed from now on: the row has passed its tests.
     void allowSave();
+    /// "&Borrar" can be pressed although a new row is open; it drops that row.
+    void allowRemove();
     /// Off until the screen has what its rows belong to.
     void setInsertAllowed(bool allowed);
 
@@ -152,10 +154,11 @@ private:
     void enterColumn(const QString &field);
     void editAt(const QString &wanted);
     Parameters keyValues() const;
-    void writeRow();
-    void go(int row);
     /// False while a cell or a detail field holds what it can't take; it has told so.
     bool commitInput();
+    void writeRow();
+    void removeRow();
+    void go(int row);
     void shareLetters();
     void setLetters(bool on);
 
@@ -172,7 +175,11 @@ private:
     bool inserting_ = false;
     bool insertAllowed_ = true;
     bool saveAllowed_ = false;
+    bool removeAllowed_ = false;
 };
+
+/// Gives the letter of a button's caption away, for one that a button of the list has too.
+void withoutLetter(Button *button);
 
 /// The panel as a piece of a form.
 form::WidgetItem<CataloguePanel> catalogue(CataloguePanel **where, Context &context,

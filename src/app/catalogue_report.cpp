@@ -16,7 +16,9 @@ constexpr double kLine = 5;
 constexpr double kHeadHeight = 26;
 constexpr double kFootHeight = 7;
 constexpr double kRowLine = 4.4;
-constexpr double kGap = 1.5;  ///< between two columns
+constexpr double kGap = 2.5;  ///< between two columns
+constexpr int kKeyColumns = 4;
+constexpr double kKeyLine = 4;
 
 report::PageSetup page(bool landscape) {
     const report::PageSetup letter = report::PageSetup::letter(kMargin);
@@ -33,13 +35,28 @@ void paintHead(Band &band, const CatalogueHeading &heading, const QString &title
     band.text({kSide, 0, middle, 6}, heading.institucion, centred.size(12).bold());
     band.text({kSide, 6.4, middle, kLine}, heading.clinica, centred.size(10));
     band.text({kSide, 13.5, middle, 6}, title, centred.size(11).bold());
+    band.text({kSide, 18.1, middle, 3.8}, heading.linea, centred.size(9));
     const Style aside = Style().right().size(9);
     band.text({width - kSide, 0, kSide, kLine},
-    band.text({kSide, 18.1, middle, 3.8}, heading.linea, centred.size(9));
               QStringLiteral("Fecha: ") + formatDate(heading.fecha), aside);
     band.text({width - kSide, kLine, kSide, kLine},
               QStringLiteral("No. página: %1").arg(page.number), aside);
     band.line(0, kHeadHeight - 4, width, kHeadHeight - 4, 0.4);
+}
+
+double keyHeight(const ReportKey &key) {
+    const auto rows = (key.entries.size() + kKeyColumns - 1) / kKeyColumns;
+    return key.entries.isEmpty() ? 0 : kKeyLine * static_cast<double>(rows + 1) + 2;
+}
+
+void paintKey(Band &band, const ReportKey &key, double width) {
+    const Style style = Style().size(8).wrap(Wrap::Elide);
+    const double cell = width / kKeyColumns;
+    band.text({0, 0, width, kKeyLine}, key.title, style.bold());
+    for (int at = 0; at < key.entries.size(); ++at) {
+        band.text({cell * (at % kKeyColumns), kKeyLine * (1 + at / kKeyColumns), cell, kKeyLine},
+                  key.entries.at(at), style);
+    }
 }
 
 }  // namespace
@@ -101,7 +118,7 @@ double catalogueWidth(bool landscape) {
 }
 
 report::Layout catalogueLayout(const CatalogueHeading &heading, const QString &title,
-                               bool landscape) {
+                               bool landscape, const ReportKey &key) {
     const report::PageSetup setup = page(landscape);
     const double width = setup.content().width();
     report::Layout layout(setup);
@@ -110,11 +127,14 @@ report::Layout catalogueLayout(const CatalogueHeading &heading, const QString &t
                           Band &band, const report::PageInfo &info) {
                           paintHead(band, heading, title, logo, width, info);
                       });
-    layout.pageFooter(kFootHeight, [heading, width](Band &band, const report::PageInfo &) {
-        band.line(0, 1, width, 1);
-        band.text({0, 2, width, kLine}, QStringLiteral("KALDO %1.").arg(heading.anioActual),
-                  Style().size(8));
-    });
+    const double top = keyHeight(key);
+    layout.pageFooter(
+        top + kFootHeight, [heading, width, key, top](Band &band, const report::PageInfo &) {
+            paintKey(band, key, width);
+            band.line(0, top + 1, width, top + 1);
+            band.text({0, top + 2, width, kLine},
+                      QStringLiteral("KALDO %1.").arg(heading.anioActual), Style().size(8));
+        });
     return layout;
 }
 

@@ -46,10 +46,16 @@ private:
 /// Room for text inside the margins of 12.7 mm, in millimetres.
 double catalogueWidth(bool landscape = false);
 
+/// What the codes of a report stand for, at the foot of every page.
+struct ReportKey {
+    QString title;
+    QStringList entries;
+};
+
 /// A letter page with the head that all catalogues share (logo, institution and clinic, date, page
 /// number, title) and its foot.
 report::Layout catalogueLayout(const CatalogueHeading &heading, const QString &title,
-                               bool landscape = false);
+                               bool landscape = false, const ReportKey &key = {});
 
 /// A line that heads a group: a caption and, in bold, what it names.
 report::Band groupBand(const QString &caption, const QString &text, double indentMm = 0);
