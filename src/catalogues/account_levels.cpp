@@ -87,4 +87,21 @@ QString AccountLevels::nomenclatura(bool withSixth) const {
     return parts.join(u'.');
 }
 
+QList<ReportColumn> accountReportColumns() {
+    QList<ReportColumn> columns;
+    for (const auto &title : {u"Genero"_s, u"Grupo"_s, u"Rubro"_s, u"Cuenta"_s, u"Subcta"_s}) {
+        columns += {title, 13, report::Align::Center};
+    }
+    return columns << ReportColumn{u"Nomenclatura"_s, 38};
+}
+
+QStringList accountCells(const NamedQuery &query, int row) {
+    QStringList cells;
+    for (const auto &field : {u"generoid"_s, u"grupoid"_s, u"cgrubroid"_s, u"cuentaid"_s,
+                              u"subctaid"_s, u"nomenclatura"_s}) {
+        cells += query.valueAt(row, field).toString();
+    }
+    return cells;
+}
+
 }  // namespace kaldo

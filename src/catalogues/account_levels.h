@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/catalogue_panel.h"
+#include "app/catalogue_report.h"
 #include "data/dm_finanzas.h"
 
 namespace kaldo {
@@ -37,5 +38,9 @@ private:
     QList<Level> levels_;
     NamedQuery &row_;
 };
+
+/// The five levels and the path as columns of a report, and a row's cells for them.
+QList<ReportColumn> accountReportColumns();
+QStringList accountCells(const NamedQuery &query, int row);
 
 }  // namespace kaldo

@@ -9,15 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace kaldo {
 
-namespace {
-
-/// The letter is that of a button of the list, which has it.
-void withoutLetter(Button *button) {
-    button->setShortcut({});
-}
-
-}  // namespace
-
 FRM107::FRM107(Context &context) : Screen(context, u"FRM107"_s, u"Lista de Precios"_s) {
     using namespace form;
     form::build(this,
@@ -35,9 +26,7 @@ FRM107::FRM107(Context &context) : Screen(context, u"FRM107"_s, u"Lista de Preci
                              .with(withoutLetter)
                              .disabled()
                              .clicked([this] { borrarLista(); }),
-                         button(nullptr, u"Duplicados"_s, u"..."_s)
-                             .hint(u"Duplicados"_s)
-                             .accessible(u"Duplicados"_s)
+                         iconButton(nullptr, u"Duplicados"_s, u"Duplicados"_s, u"duplicate"_s)
                              .clicked([this] { toggleDuplicates(); })}),
                     duplicates(),
                     catalogue(&panel_, context, u"Precios"_s, prices()),
@@ -113,8 +102,11 @@ CatalogueRules FRM107::prices() {
     };
     rules.complete = [this] { return completeRow(); };
     rules.modeChanged = [this](CatalogueMode mode) {
-        borrarLista_->setEnabled(mode == CatalogueMode::Consult &&
-                                 !context().odonto.Listaprecios1.isEmpty());
+        const bool consult = mode == CatalogueMode::Consult;
+        borrarLista_->setEnabled(consult && !context().odonto.Listaprecios1.isEmpty());
+        // What either of them does would take the open row along.
+        area_->setEnabled(consult);
+        duplicados_->setEnabled(consult);
     };
     return rules;
 }

@@ -6,6 +6,8 @@
 
 #include "app/catalogue_panel.h"
 #include "app/screen.h"
+#include "data/database_error.h"
+#include "tests/support/documents.h"
 #include "tests/support/keys.h"
 #include "tests/support/test_station.h"
 
@@ -13,6 +15,22 @@ namespace kaldo::test {
 
 inline const QString kSave = QStringLiteral("¿La Información es Correcta?");
 inline const QString kRemove = QStringLiteral("¿Desea borrar esta Información?");
+
+/// Refuses one write, as a server does that went away before the commit.
+class RefusedWrite final : public Seam {
+public:
+    static QString text() { return QStringLiteral("El servidor no contesta."); }
+    void refuse(int nth) { left_ = nth; }
+    void beforeCommit(const Execution &execution) override {
+        if (execution.writes && --left_ == 0) {
+            throw DatabaseError(
+                text(), {DatabaseFailure::Other, {}, 0, {}, execution.connection, execution.name});
+        }
+    }
+
+private:
+    int left_ = 0;
+};
 
 /// A catalogue over the example school, driven by keys.
 template <typename S>
@@ -52,6 +70,32 @@ protected:
         return valueOf(station.clinic(), text, values);
     }
 
+    void changeInClinic(const QString &text, const Parameters &values = {}) {
+        run(station.clinic(), text, values);
+    }
+    /// The n-th write from now on fails, and its box is expected.
+    void refuseWrite(int nth = 1) {
+        refused_.refuse(nth);
+        station.conexion.setSeam(&refused_);
+        station.messages.expectError(RefusedWrite::text());
+    }
+    /// What the screen previews; its pages become pictures where these are asked for.
+    report::Document preview(const QString &name) {
+        station.printing.records.clear();
+        screen->previewReport();
+        if (station.printing.records.isEmpty()) {
+            return {};
+        }
+        const report::Document document = station.printing.records.last().document;
+        pagePictures(document, name);
+        EXPECT_TRUE(readsCleanly(document));
+        return document;
+    }
+
+private:
+    RefusedWrite refused_;
+
+protected:
     TestStation station;
     std::unique_ptr<S> screen;
 };

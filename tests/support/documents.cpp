@@ -1,7 +1,9 @@
 #include "tests/support/documents.h"
 
 #include "toolkit/report/layout.h"
+#include "toolkit/report/paint.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <string>
@@ -72,6 +74,15 @@ std::vector<Printed> printedLines(const report::Page &page) {
         }
     }
     return ::testing::AssertionSuccess();
+}
+
+void pagePictures(const report::Document &document, const QString &name) {
+    const QString folder = qEnvironmentVariable("KALDO_PICTURES");
+    for (int page = 0; !folder.isEmpty() && page < document.pageCount(); ++page) {
+        QDir().mkpath(folder);
+        report::pageImage(document, page, 4)
+            .save(QStringLiteral("%1/%2_page%3.png").arg(folder, name).arg(page + 1));
+    }
 }
 
 }  // namespace kaldo::test

@@ -17,4 +17,7 @@ namespace kaldo::test {
 /// allowed strip from the left margin on, in millimetres; 0 is the page's own width.
 ::testing::AssertionResult readsCleanly(const report::Document &document, double width = 0);
 
+/// Saves a picture of every page under $KALDO_PICTURES, where that is set.
+void pagePictures(const report::Document &document, const QString &name);
+
 }  // namespace kaldo::test

@@ -1,0 +1,91 @@
+#include "catalogues/clinics_report.h"
+
+#include <QHash>
+
+using namespace Qt::StringLiterals;
+
+namespace kaldo {
+
+namespace {
+
+constexpr double kIndent = 6;
+constexpr double kCentreGap = 4;
+constexpr double kAreaGap = 1.5;
+
+ReportKey serviceCodes() {
+    return {u"Simbología de Código de Servicio"_s,
+            {u"AP = Atención Pacientes"_s, u"AL = Alumnos"_s, u"AD = Admisión de Pacientes"_s,
+             u"AE = Apertura de Expedientes"_s, u"DV = Diversos"_s, u"LI = Laboratorio Interno"_s,
+             u"LE = Laboratorio Externo"_s, u"UM = Unidad Móvil"_s}};
+}
+
+report::Band centreHead(const ClinicRow &row) {
+    return groupBand(u"Centro de Atención"_s, row.centroDescr);
+}
+
+report::Band areaHead(const ClinicRow &row) {
+    return groupBand(u"Área Servicio"_s, row.areaDescr, kIndent);
+}
+
+}  // namespace
+
+QList<ClinicRow> clinicRows(NamedQuery &areaatencion, NamedQuery &areas) {
+    QHash<QString, QString> names;
+    for (int at = 0; at < areas.count(); ++at) {
+        names.insert(areas.valueAt(at, u"tipo_prod"_s).toString(),
+                     areas.valueAt(at, u"descr"_s).toString());
+    }
+    QList<ClinicRow> rows;
+    const int count = areaatencion.count();
+    for (int at = 0; at < count; ++at) {
+        const auto text = [&](const QString &field) {
+            return areaatencion.valueAt(at, field).toString();
+        };
+        ClinicRow row;
+        row.centro = text(u"centro"_s);
+        row.centroDescr = text(u"descr_1"_s);
+        row.tipoProd = text(u"tipo_prod"_s);
+        row.areaDescr = names.value(row.tipoProd, row.tipoProd);
+        row.area = text(u"area"_s);
+        row.descr = text(u"descr"_s);
+        row.prog = text(u"prog"_s);
+        row.tipoServ = text(u"tipo_serv"_s);
+        row.responsable = text(u"responsable"_s);
+        rows += row;
+    }
+    return rows;
+}
+
+report::Document layoutClinics(const CatalogueHeading &heading, const QList<ClinicRow> &rows) {
+    report::Layout layout =
+        catalogueLayout(heading, u"Clinicas por Areas de Ventas"_s, false, serviceCodes());
+    const ReportTable table({{u"Área"_s, 14},
+                             {u"Descripción"_s, 0},
+                             {u"Programa"_s, 20},
+                             {u"Código de Servicio"_s, 34},
+                             {u"Responsable"_s, 58}},
+                            catalogueWidth());
+    const ClinicRow *before = nullptr;
+    for (const ClinicRow &row : rows) {
+        const report::Band line =
+            table.row({row.area, row.descr, row.prog, row.tipoServ, row.responsable});
+        const bool newCentre = !before || before->centro != row.centro;
+        if (newCentre || before->tipoProd != row.tipoProd) {
+            std::vector<report::Band> group;
+            if (newCentre) {
+                group.push_back(centreHead(row));
+            }
+            group.insert(group.end(), {areaHead(row), table.titles(), line});
+            layout.repeatOnNewPages(std::nullopt);
+            layout.skip(!before ? 0 : newCentre ? kCentreGap : kAreaGap);
+            layout.placeTogether(group);
+            layout.repeatOnNewPages(table.titles());
+        } else {
+            layout.place(line);
+        }
+        before = &row;
+    }
+    return layout.finish();
+}
+
+}  // namespace kaldo
