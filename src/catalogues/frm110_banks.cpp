@@ -46,7 +46,7 @@ CatalogueRules FRM110::banks() {
                       {u"DESCRIPCION"_s, u"Descripción"_s, 44}}})
             .strict(),
         GridColumn(u"NOMENCLATURA"_s, u"Nomenclatura"_s, 16),
-        GridColumn(u"DESCRIPCION"_s, u"Dedscripción"_s, 34).limit(250).upper().editable(),
+        GridColumn(u"DESCRIPCION"_s, u"Dedscripción"_s, 34).limit(250).upper().stretch().editable(),
         GridColumn(u"TIPOMONEDA"_s, u"Tipo Moneda"_s, 22)
             .mask(CellMask::Integer)
             .align(Qt::AlignLeft)
@@ -66,6 +66,8 @@ CatalogueRules FRM110::banks() {
         {u"TIPOMONEDA"_s, [] { return EnterResult::Save; }},
     };
     rules.accept = [this] { return hasDescription(); };
+    rules.write = [this] { writeBank(); };
+    rules.remove = [this] { removeBank(); };
     rules.modeChanged = [this](CatalogueMode mode) {
         if (mode == CatalogueMode::Edit) {
             openLists();
@@ -95,6 +97,8 @@ CatalogueRules FRM110::programmesOfBank() {
         row.set(u"bancoid"_s, finanzas.Bancos.value(u"bancoid"_s));
     };
     rules.enter = {{u"PROGRAMAID"_s, [this] { return enterPrograma(); }}};
+    rules.write = [this] { writeProgramme(); };
+    rules.remove = [this] { removeProgramme(); };
     return rules;
 }
 
@@ -150,7 +154,7 @@ EnterResult FRM110::enterSubSubcta() {
 EnterResult FRM110::enterPrograma() {
     const NamedQuery &row = programas_->query();
     const QVariant programa = row.value(u"programaid"_s);
-    if (context().finanzas.existe(bancoProgramaText(row.value(u"bancoid"_s), programa))) {
+    if (context().odonto.existe(bancoProgramaText(row.value(u"bancoid"_s), programa))) {
         return programas_->refuse(
             u"programaid"_s,
             u"Ya existe un registro para esta Banco/Programa, revise la información."_s);
@@ -158,9 +162,61 @@ EnterResult FRM110::enterPrograma() {
     return EnterResult::Save;
 }
 
+void FRM110::writeBank() {
+    NamedQuery &bank = panel_->query();
+    bank.apply();
+    if (!session().isFirebird()) {
+        return;  // that clinic database sees the tables of finance
+    }
+    Parameters copy;
+    for (const auto &column : {u"bancoid"_s, u"generoid"_s, u"grupoid"_s, u"cgrubroid"_s,
+                               u"cuentaid"_s, u"subctaid"_s, u"subsubctaid"_s, u"nomenclatura"_s,
+                               u"descripcion"_s, u"tipomoneda"_s, u"posleftnumcheque"_s}) {
+        copy.append({column, bank.value(column)});
+    }
+    context().caja.CopiaBanco.execute(copy);
+}
+
+void FRM110::removeBank() {
+    NamedQuery &bank = panel_->query();
+    const QVariant bancoid = bank.value(u"bancoid"_s);
+    bank.remove();
+    bank.apply();
+    if (session().isFirebird()) {
+        context().caja.BorraBanco.execute({{u"bancoid"_s, bancoid}});
+    }
+}
+
+void FRM110::writeProgramme() {
+    programas_->query().apply();
+    copyProgrammes();
+}
+
+void FRM110::removeProgramme() {
+    programas_->query().remove();
+    programas_->query().apply();
+    copyProgrammes();
+}
+
+void FRM110::copyProgrammes() {
+    if (!session().isFirebird()) {
+        return;
+    }
+    DMIngresosCaja &caja = context().caja;
+    NamedQuery &rows = programas_->query();
+    const QVariant bancoid = context().finanzas.Bancos.value(u"bancoid"_s);
+    caja.BorraBancoProgramas.execute({{u"bancoid"_s, bancoid}});
+    for (int row = 0; row < rows.count(); ++row) {
+        caja.CopiaBancoPrograma.execute(
+            {{u"bancoid"_s, bancoid}, {u"programaid"_s, rows.valueAt(row, u"programaid"_s)}});
+    }
+}
+
 bool FRM110::hasDescription() {
     if (panel_->query().text(u"descripcion"_s).isEmpty()) {
         messages().warning(u"El Campo Descripción se encuentra vacío, favor de llenarlo"_s);
+        panel_->grid()->setCurrentField(u"DESCRIPCION"_s);
+        moveFocus(panel_->grid());
         return false;
     }
     return true;

@@ -29,6 +29,11 @@ private:
     void openSubSubcta();
     void openProgrammes();
     void toggleProgrammes();
+    void writeBank();
+    void removeBank();
+    void writeProgramme();
+    void removeProgramme();
+    void copyProgrammes();
 
     AccountLevels levels_;
     CataloguePanel *panel_ = nullptr;

@@ -15,6 +15,18 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
       TipoCam("TipoCam", "update  control set tipo_cam=:tipo where llave='1'"),
       UDatosCaja("UDatosCaja", "update datoscaja set nota_vta=:nota where num_caja=:caja"),
       FolioNota("FolioNota", "update datoscaja set nota_vta=:nota where num_caja=:caja"),
+      CopiaBanco("CopiaBanco",
+                 "update or insert into cg_banco (bancoid, generoid, grupoid, cgrubroid, cuentaid, "
+                 "subctaid, subsubctaid, nomenclatura, descripcion, tipomoneda, posleftnumcheque) "
+                 "values (:bancoid, :generoid, :grupoid, :cgrubroid, :cuentaid, :subctaid, "
+                 ":subsubctaid, :nomenclatura, :descripcion, :tipomoneda, :posleftnumcheque) "
+                 "matching (bancoid)"),
+      BorraBanco("BorraBanco", "delete from cg_banco where bancoid=:bancoid"),
+      CopiaBancoPrograma("CopiaBancoPrograma",
+                         "update or insert into cg_bancoporprograma (bancoid, programaid) values "
+                         "(:bancoid, :programaid) matching (bancoid, programaid)"),
+      BorraBancoProgramas("BorraBancoProgramas",
+                          "delete from cg_bancoporprograma where bancoid=:bancoid"),
       ListaPrecios({"ListaPrecios",
                     "SELECT * FROM  listaprecios Listaprecios  where tipo_prod=:tipo_prod order by "
                     "descr"}),
@@ -150,7 +162,8 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
              &CorteBancario,
              &PagoAnticipo,
              &SaldoPaciente});
-    bindAll({&CambiaPass, &TipoCam, &UDatosCaja, &FolioNota});
+    bindAll({&CambiaPass, &TipoCam, &UDatosCaja, &FolioNota, &CopiaBanco, &BorraBanco,
+             &CopiaBancoPrograma, &BorraBancoProgramas});
     bindAll({&registra_pago_odontologia_p, &sp_registrametodopago, &spinsdetalle,
              &registra_historicodontologia_p, &registraiva, &BorrarDetalleVtas, &SP550,
              &CompletaCorteBancario});

@@ -21,6 +21,11 @@ public:
     Command TipoCam;
     Command UDatosCaja;
     Command FolioNota;
+    // The bank cut can't read across databases: the clinic keeps a copy of the banks of finance.
+    Command CopiaBanco;
+    Command BorraBanco;
+    Command CopiaBancoPrograma;
+    Command BorraBancoProgramas;
 
     // The note's lines and its payer
     NamedQuery ListaPrecios;

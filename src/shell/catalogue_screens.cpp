@@ -2,7 +2,9 @@
 
 #include "catalogues/frm100_care_centres.h"
 #include "catalogues/frm107_price_list.h"
+#include "catalogues/frm109_payment_methods.h"
 #include "catalogues/frm110_banks.h"
+#include "catalogues/frm111_exchange_rate.h"
 
 namespace kaldo {
 
@@ -18,8 +20,10 @@ void add(FRM000 &window, Context &context, const char *entry) {
 
 void registerCatalogues(FRM000 &window, Context &context) {
     add<FRM100>(window, context, "B1");
+    add<FRM109>(window, context, "B8");
     add<FRM107>(window, context, "B9");
     add<FRM110>(window, context, "B11");
+    add<FRM111>(window, context, "B12");
 }
 
 }  // namespace kaldo

@@ -1,0 +1,97 @@
+#include "catalogues/frm109_payment_methods.h"
+
+#include "catalogues/payment_methods_report.h"
+#include "data/catalogue_texts.h"
+#include "toolkit/forms/form.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kaldo {
+
+FRM109::FRM109(Context &context) : Screen(context, u"FRM109"_s, u"Métodos de Pago"_s) {
+    using namespace form;
+    form::build(this, column({catalogue(&panel_, context, u"Metodos"_s, methods())}));
+}
+
+CatalogueRules FRM109::methods() {
+    CatalogueRules rules;
+    rules.query = &context().odonto.Metodopagocfdi;
+    rules.keys = {u"clave"_s};
+    rules.columns = {
+        GridColumn(u"CLAVE"_s, u"Clave"_s, 8).limit(2).editable(),
+        GridColumn(u"DESCRIPCION"_s, u"Descripción"_s, 70).limit(100).upper().stretch().editable(),
+    };
+    rules.fixedOnEdit = {u"CLAVE"_s};
+    rules.saveQuestion = u"La información es correcta?"_s;
+    rules.removeQuestion = u"Desea borrar este registro?"_s;
+    rules.writeFailure = WriteFailure::CancelsEdit;
+    rules.openRow = [this] { openRow(); };
+    rules.saveRefused = [this] { context().odonto.Prestaciones.cancelUpdates(); };
+    rules.enter = {
+        {u"CLAVE"_s, [this] { return enterClave(); }},
+        {u"DESCRIPCION"_s, [this] { return enterDescripcion(); }},
+    };
+    return rules;
+}
+
+void FRM109::formCreate() {
+    panel_->reload();
+}
+
+void FRM109::activated() {
+    panel_->refresh();
+}
+
+/// Of the two data sets it is the classification of patients that is opened; the row of this
+/// screen follows with the first key that writes into it.
+void FRM109::openRow() {
+    NamedQuery &prestaciones = context().odonto.Prestaciones;
+    if (!prestaciones.isOpen()) {
+        prestaciones.open();
+    }
+    prestaciones.edit();
+}
+
+EnterResult FRM109::enterClave() {
+    NamedQuery &row = panel_->query();
+    const QString typed = row.text(u"clave"_s).trimmed();
+    if (typed.isEmpty()) {
+        return panel_->refuse(u"clave"_s, u"La clave debe ser mayor que cero."_s);
+    }
+    const QString clave = typed.rightJustified(2, u'0');
+    row.set(u"clave"_s, clave);
+    if (context().odonto.existe(metodoClaveText(clave))) {
+        return panel_->refuse(u"clave"_s, u"La clave ya existe vuelva a intentar"_s);
+    }
+    panel_->allowSave();
+    return EnterResult::Next;
+}
+
+EnterResult FRM109::enterDescripcion() {
+    const QString descripcion = panel_->query().text(u"descripcion"_s);
+    if (descripcion.trimmed().isEmpty()) {
+        return panel_->required();
+    }
+    if (context().odonto.existe(metodoDescrText(descripcion))) {
+        return panel_->refuse(
+            u"descripcion"_s,
+            u"Esta descripción ya existe en la lista de prestaciones, vuelva a intentar"_s);
+    }
+    return EnterResult::Save;
+}
+
+bool FRM109::previewReport() {
+    const NamedQuery &methods = panel_->query();
+    panel_->refresh();
+    QList<PaymentMethod> rows;
+    const int count = panel_->query().count();
+    for (int row = 0; row < count; ++row) {
+        rows += PaymentMethod{methods.valueAt(row, u"clave"_s).toString(),
+                              methods.valueAt(row, u"descripcion"_s).toString()};
+    }
+    previewCatalogue(context(), this, this, layoutPaymentMethods(catalogueHeading(context()), rows),
+                     windowTitle());
+    return true;
+}
+
+}  // namespace kaldo
