@@ -37,7 +37,7 @@ Band block(const ExternalLaboratory &row) {
               Style().size(10).bold().wrap(Wrap::Elide));
     band.text({0, 1 + kLine, kCaption, kLine}, u"Domicilio"_s, Style().size(9));
     band.memo({kCaption, 1 + kLine, width - kCaption, kLine}, row.domicilio, Style().size(9));
-    double top = band.height();
+    double top = band.height() + 0.6;
     const std::array<std::pair<Entry, Entry>, 4> lines = {{
         {{u"Colonia"_s, row.colonia}, {u"Responsable"_s, row.responsable}},
         {{u"RFC"_s, row.rfc}, {u"Correo Electrónico"_s, row.correo}},

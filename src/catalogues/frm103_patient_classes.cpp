@@ -27,7 +27,7 @@ CatalogueRules FRM103::classes() {
     rules.query = &context().odonto.Prestaciones;
     rules.keys = {u"prestacion"_s};
     rules.columns = {
-        GridColumn(u"PRESTACION"_s, u"Clave"_s, 8).mask(CellMask::Integer).editable(),
+        GridColumn(u"PRESTACION"_s, u"Clave"_s, 9).mask(CellMask::Integer).limit(9).editable(),
         GridColumn(u"DESCRIPCION"_s, u"Descripción"_s, 60).limit(100).upper().editable(),
         beneficiario,
     };

@@ -49,8 +49,8 @@ CatalogueRules FRM104a::discounts() {
             .strict()
             .editable(),
         GridColumn(u"CLDESCR"_s, u"Descripción"_s, 46),
-        GridColumn(u"EDAD"_s, u"Edad"_s, 8).mask(CellMask::Integer).editable(),
-        GridColumn(u"PORCENT"_s, u"% Descuento"_s, 12).mask(CellMask::Integer).editable(),
+        GridColumn(u"EDAD"_s, u"Edad"_s, 8).mask(CellMask::Integer).limit(3).editable(),
+        GridColumn(u"PORCENT"_s, u"% Descuento"_s, 12).mask(CellMask::Integer).limit(3).editable(),
     };
     rules.fixedOnEdit = {u"PRESTACION"_s};
     rules.saveQuestion = u"La información es correcta?"_s;

@@ -15,6 +15,7 @@ constexpr double kPixel = 25.4 / 96;
 constexpr double kAreaAlone = 70 * kPixel;
 constexpr double kAreaWithClasses = 96 * kPixel;
 constexpr double kIndent = 6;
+constexpr std::size_t kRules = 2;  ///< the band of an area that takes the room to its height
 
 Band centreHead(const ServiceClassLine &row) {
     return groupBand(u"Centro de Atención"_s, row.centro + u"   "_s + row.centroDescr);
@@ -29,8 +30,13 @@ ReportTable rulesTable() {
                        catalogueWidth());
 }
 
-ReportTable classTable(const QString &title) {
-    return ReportTable({{title, 0}, {u"Porcentaje Descuento"_s, 44, Align::Right}},
+/// `area` tells on a further page whose classes go on there.
+ReportTable classTable(const QString &area = {}) {
+    return ReportTable({{QString(), kIndent},
+                        {u"Prestación"_s, 20, Align::Right},
+                        {area, 90},
+                        {u"Porcentaje Descuento"_s, 40, Align::Right},
+                        {QString(), 0}},
                        catalogueWidth());
 }
 
@@ -42,19 +48,19 @@ std::vector<Band> areaHead(const ServiceClassLine &row) {
         rulesTable().row(
             {row.edadMin, row.edadMax, row.aplicaAnticipo, row.aplicaDesc, row.requiereEdad})};
     if (row.prestacion != 0) {
-        bands.push_back(classTable(u"Prestación"_s).titles());
+        bands.push_back(classTable().titles());
     }
     const double height =
         std::accumulate(bands.begin(), bands.end(), 0.0,
                         [](double sum, const Band &band) { return sum + band.height(); });
     const double wanted = row.prestacion != 0 ? kAreaWithClasses : kAreaAlone;
-    bands.back().growTo(bands.back().height() + wanted - height);
+    bands[kRules].growTo(bands[kRules].height() + wanted - height);
     return bands;
 }
 
 Band classLine(const ServiceClassLine &row) {
-    return classTable({}).row(
-        {u"%1   %2"_s.arg(row.prestacion).arg(row.prestacionDescr), row.porcent + u" %"_s});
+    return classTable().row(
+        {QString(), QString::number(row.prestacion), row.prestacionDescr, row.porcent + u" %"_s});
 }
 
 }  // namespace
@@ -104,8 +110,7 @@ report::Document layoutServiceClasses(const CatalogueHeading &heading,
             layout.repeatOnNewPages(centreHead(row));
         }
         layout.placeTogether(start);
-        layout.repeatOnNewPages(
-            classTable(u"%1   %2, Prestación"_s.arg(row.tipoProd, row.areaDescr)).titles());
+        layout.repeatOnNewPages(classTable(u"%1   %2"_s.arg(row.tipoProd, row.areaDescr)).titles());
         before = &row;
     }
     return layout.finish();
