@@ -1,6 +1,9 @@
 #include "shell/catalogue_screens.h"
 
 #include "catalogues/frm100_care_centres.h"
+#include "catalogues/frm103_patient_classes.h"
+#include "catalogues/frm104_service_classes.h"
+#include "catalogues/frm106_external_laboratories.h"
 #include "catalogues/frm107_price_list.h"
 #include "catalogues/frm109_payment_methods.h"
 #include "catalogues/frm110_banks.h"
@@ -20,6 +23,9 @@ void add(FRM000 &window, Context &context, const char *entry) {
 
 void registerCatalogues(FRM000 &window, Context &context) {
     add<FRM100>(window, context, "B1");
+    add<FRM103>(window, context, "B4");
+    add<FRM104>(window, context, "B5");
+    add<FRM106>(window, context, "B10");
     add<FRM109>(window, context, "B8");
     add<FRM107>(window, context, "B9");
     add<FRM110>(window, context, "B11");
