@@ -5,6 +5,7 @@
 
 #include "shell/program.h"
 #include "toolkit/forms/application.h"
+#include "tools/demo/first_day.h"
 #include "tools/demo/manual_pictures.h"
 #include "tools/demo/road.h"
 
@@ -32,7 +33,9 @@ void tellWarnings(QtMsgType, const QMessageLogContext &, const QString &text) {
     }
 }
 
-int play(int argc, char **argv, const QString &root, const QString &folder) {
+enum class Day { Ordinary, First };
+
+int play(int argc, char **argv, Day day, const QString &root, const QString &folder) {
     qInstallMessageHandler(tellWarnings);
     kaldo::Application application(argc, argv);
     kaldo::BreakingSeam seam;
@@ -44,7 +47,11 @@ int play(int argc, char **argv, const QString &root, const QString &folder) {
 
     kaldo::KeyScript script;
     script.setPictureFolder(folder);
-    kaldo::writeRoad(script, seam, folder);
+    if (day == Day::First) {
+        kaldo::writeFirstDay(script, root);
+    } else {
+        kaldo::writeRoad(script, seam, folder);
+    }
     QObject::connect(&script, &kaldo::KeyScript::failed, [&](const QString &text) {
         std::cerr << "demo: " << text.toStdString() << '\n';
         kaldo::desktopPicture().save(folder + QStringLiteral("/failed.png"));
@@ -59,19 +66,30 @@ int play(int argc, char **argv, const QString &root, const QString &folder) {
 }  // namespace
 
 int main(int argc, char **argv) {
-    const QString action = argc == 4 ? QString::fromLocal8Bit(argv[1]) : QString();
+    const QStringList words{argv + 1, argv + argc};
+    const QString action = words.size() == 3 ? words.at(0) : QString();
+    const QString root = words.value(1);
+    const QString folder = words.value(2);
     if (action == QLatin1String("play")) {
-        return play(argc, argv, QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
+        return play(argc, argv, Day::Ordinary, root, folder);
+    }
+    if (action == QLatin1String("play-first-day")) {
+        return play(argc, argv, Day::First, root, folder);
     }
     if (action == QLatin1String("pictures")) {
-        return kaldo::takeManualPictures(argc, argv);
+        return kaldo::takeManualPictures(argc, argv, kaldo::Installed::Example);
     }
+    if (action == QLatin1String("setup-pictures")) {
+        return kaldo::takeManualPictures(argc, argv, kaldo::Installed::Empty);
+    }
+    const QCoreApplication application(argc, argv);
     if (action == QLatin1String("summary")) {
-        const QCoreApplication application(argc, argv);
-        return kaldo::writeSummary(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]))
-                   ? 0
-                   : kFailed;
+        return kaldo::writeSummary(root, folder) ? 0 : kFailed;
     }
-    std::cerr << "usage: kaldo-demo play|summary|pictures ROOT DIR\n";
+    if (action == QLatin1String("summary-first-day")) {
+        return kaldo::writeFirstDaySummary(root, folder) ? 0 : kFailed;
+    }
+    std::cerr
+        << "usage: kaldo-demo play|summary|play-first-day|summary-first-day|pictures ROOT DIR\n";
     return kUsage;
 }
