@@ -17,7 +17,7 @@ constexpr int kAreasOfABusiness = 10;
 
 QList<GridColumn> areaColumns() {
     return {GridColumn(u"TIPO_PROD"_s, u"Area"_s, 6).mask(CellMask::Integer),
-            GridColumn(u"DESCR"_s, u"Descripción"_s, 28).stretch()};
+            GridColumn(u"DESCR"_s, u"Descripción"_s, 34).stretch()};
 }
 
 }  // namespace
@@ -33,8 +33,8 @@ TwoLists::TwoLists(Context &context, QWidget *parent, const QString &name)
 
 void TwoLists::build() {
     using namespace form;
-    const auto list = [](DataGrid **where, const QString &name, const QString &title,
-                         Qt::Key key, const std::function<void()> &move) {
+    const auto list = [](DataGrid **where, const QString &name, const QString &title, Qt::Key key,
+                         const std::function<void()> &move) {
         return grid(where, name, title)
             .above()
             .columns(areaColumns())
@@ -54,19 +54,19 @@ void TwoLists::build() {
         row({column({list(&available_, u"AreasDisponibles"_s, u"Áreas de ventas disponibles"_s,
                           Qt::Key_Insert, add)}),
              panel(&buttons_, u"PanelBotones"_s,
-                   column({stretch(),
-                           iconButton(&addAll_, u"AgregarTodas"_s, u"Agregar todas"_s, u"last"_s)
-                               .clicked([this] { addAll(); }),
-                           iconButton(&addSelected_, u"AgregarSeleccionada"_s,
-                                      u"Agregar seleccionada"_s, u"next"_s)
-                               .clicked(add),
-                           iconButton(&removeSelected_, u"EliminarSeleccionada"_s,
-                                      u"Eliminar seleccionada"_s, u"previous"_s)
-                               .clicked(remove),
-                           iconButton(&removeAll_, u"EliminarTodas"_s, u"Eliminar todas"_s,
-                                      u"first"_s)
-                               .clicked([this] { removeAll(); }),
-                           stretch()})),
+                   column(
+                       {stretch(),
+                        iconButton(&addAll_, u"AgregarTodas"_s, u"Agregar todas"_s, u"last"_s)
+                            .clicked([this] { addAll(); }),
+                        iconButton(&addSelected_, u"AgregarSeleccionada"_s,
+                                   u"Agregar seleccionada"_s, u"next"_s)
+                            .clicked(add),
+                        iconButton(&removeSelected_, u"EliminarSeleccionada"_s,
+                                   u"Eliminar seleccionada"_s, u"previous"_s)
+                            .clicked(remove),
+                        iconButton(&removeAll_, u"EliminarTodas"_s, u"Eliminar todas"_s, u"first"_s)
+                            .clicked([this] { removeAll(); }),
+                        stretch()})),
              column({list(&added_, u"AreasAgregadas"_s, u"Áreas de ventas agregadas"_s,
                           Qt::Key_Delete, remove)})}));
     layout()->setContentsMargins(0, 0, 0, 0);
@@ -108,7 +108,7 @@ void TwoLists::reload() {
     emit reloaded();
 }
 
-void TwoLists::write(const std::function<void()> &step) {
+void TwoLists::write(const NamedQuery &from, DataGrid *other, const std::function<void()> &step) {
     if (centro_.isEmpty()) {
         return;
     }
@@ -119,7 +119,9 @@ void TwoLists::write(const std::function<void()> &step) {
         throw;
     }
     reload();
-    keepFocus();
+    if (from.isEmpty()) {
+        moveFocus(other);
+    }
 }
 
 void TwoLists::insert(const QVariant &tipoProd) {
@@ -130,10 +132,17 @@ void TwoLists::insert(const QVariant &tipoProd) {
     added.apply();
 }
 
+void TwoLists::erase() {
+    NamedQuery &added = context_.odonto.ServxCtro;
+    added.remove();
+    added.apply();
+}
+
 void TwoLists::addAll() {
-    write([this] {
-        const NamedQuery &available = context_.odonto.ConsultaAreas;
-        const int rows = context_.odonto.ConsultaAreas.count();
+    NamedQuery &available = context_.odonto.ConsultaAreas;
+    write(available, added_, [&] {
+        available.reopen();  // without those that another station has added meanwhile
+        const int rows = available.count();
         for (int row = 0; row < rows; ++row) {
             insert(available.valueAt(row, u"tipo_prod"_s));
         }
@@ -143,29 +152,26 @@ void TwoLists::addAll() {
 void TwoLists::addSelected() {
     const NamedQuery &available = context_.odonto.ConsultaAreas;
     if (!available.isEmpty()) {
-        write([&] { insert(available.value(u"tipo_prod"_s)); });
+        write(available, added_, [&] { insert(available.value(u"tipo_prod"_s)); });
     }
 }
 
 void TwoLists::removeSelected() {
     NamedQuery &added = context_.odonto.ServxCtro;
     if (!added.isEmpty()) {
-        write([&added] {
-            added.remove();
-            added.apply();
-        });
+        write(added, available_, [&] { erase(); });
     }
 }
 
 void TwoLists::removeAll() {
-    write([this] {
+    NamedQuery &added = context_.odonto.ServxCtro;
+    write(added, available_, [&] {
         NamedQuery &stored = context_.odonto.ServxCtro1;
         stored.open({{u"ctro"_s, centro_}});
-        NamedQuery &added = context_.odonto.ServxCtro;
-        // An area that no longer exists stands among the stored ones only.
+        added.reopen();
+        // Those whose area no longer exists stand among the stored ones only.
         for (int left = stored.count(); left > 0 && !added.isEmpty(); --left) {
-            added.remove();
-            added.apply();
+            erase();
         }
     });
 }
@@ -179,16 +185,6 @@ void TwoLists::updateButtons() {
     addSelected_->setEnabled(available);
     removeSelected_->setEnabled(added);
     removeAll_->setEnabled(added);
-}
-
-void TwoLists::keepFocus() {
-    if (added_->hasFocus() && context_.odonto.ServxCtro.isEmpty()) {
-        moveFocus(available_);
-    } else if (context_.odonto.ConsultaAreas.isEmpty() && !added_->hasFocus()) {
-        moveFocus(added_);
-    } else if (context_.odonto.ServxCtro.isEmpty()) {
-        moveFocus(available_);
-    }
 }
 
 form::WidgetItem<TwoLists> twoLists(TwoLists **where, Context &context, const QString &name) {

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 #include "app/context.h"
 #include "toolkit/forms/button.h"
 #include "toolkit/forms/data_grid.h"
@@ -40,11 +42,12 @@ signals:
 
 private:
     void build();
-    void write(const std::function<void()> &step);
+    /// Runs a step and shows what it led to; the focus goes to the other list once `from` is empty.
+    void write(const NamedQuery &from, DataGrid *other, const std::function<void()> &step);
     void insert(const QVariant &tipoProd);
+    void erase();
     void close();
     void updateButtons();
-    void keepFocus();
 
     Context &context_;
     QString centro_;

@@ -1,6 +1,7 @@
 #include "shell/catalogue_screens.h"
 
 #include "catalogues/frm100_care_centres.h"
+#include "catalogues/frm102_centre_areas.h"
 #include "catalogues/frm103_patient_classes.h"
 #include "catalogues/frm104_service_classes.h"
 #include "catalogues/frm106_external_laboratories.h"
@@ -23,6 +24,7 @@ void add(FRM000 &window, Context &context, const char *entry) {
 
 void registerCatalogues(FRM000 &window, Context &context) {
     add<FRM100>(window, context, "B1");
+    add<FRM102>(window, context, "B3");
     add<FRM103>(window, context, "B4");
     add<FRM104>(window, context, "B5");
     add<FRM106>(window, context, "B10");

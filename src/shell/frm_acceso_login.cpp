@@ -1,6 +1,7 @@
 #include "shell/frm_acceso_login.h"
 
 #include "shell/frm000_main_window.h"
+#include "shell/frm_inicio_firebird_wizard.h"
 #include "shell/frm_pass_password.h"
 #include "shell/update_check.h"
 #include "toolkit/core/text.h"
@@ -25,11 +26,13 @@ const QString kLeaveProgram = QStringLiteral("&Salir de la Aplicación");
 
 }  // namespace
 
-FRMAcceso::FRMAcceso(Context &context, FRM000 &main, FRMPass &password, UpdateCheck &update)
+FRMAcceso::FRMAcceso(Context &context, FRM000 &main, FRMPass &password, UpdateCheck &update,
+                     FRMInicioFirebird &wizard)
     : Dialog(context, QStringLiteral("FRMAcceso"), QStringLiteral("Acceso a Usuario")),
       main_(main),
       password_(password),
-      update_(update) {}
+      update_(update),
+      wizard_(wizard) {}
 
 void FRMAcceso::build() {
     using namespace form;
@@ -304,11 +307,7 @@ void FRMAcceso::offerWizard() {
     }
     context().odonto.CtroAtencionF.open();
     if (context().odonto.CtroAtencionF.isEmpty()) {
-        main_.whenRunning([this] {
-            messages().information(
-                QStringLiteral("La base de datos no tiene centros de atención y el asistente que "
-                               "los registra todavía no está disponible en esta versión."));
-        });
+        main_.whenRunning([this] { wizard_.showModal(); });
     }
 }
 

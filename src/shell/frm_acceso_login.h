@@ -9,6 +9,7 @@ namespace kaldo {
 class Button;
 class CheckField;
 class FRM000;
+class FRMInicioFirebird;
 class FRMPass;
 class TextField;
 class UpdateCheck;
@@ -18,7 +19,8 @@ class FRMAcceso final : public Dialog {
     Q_OBJECT
 
 public:
-    FRMAcceso(Context &context, FRM000 &main, FRMPass &password, UpdateCheck &update);
+    FRMAcceso(Context &context, FRM000 &main, FRMPass &password, UpdateCheck &update,
+              FRMInicioFirebird &wizard);
 
     /// The work of its creation: on a consultation station with its own user the login is done
     /// without the screen, and what has to be told waits for the run loop.
@@ -57,6 +59,7 @@ private:
     FRM000 &main_;
     FRMPass &password_;
     UpdateCheck &update_;
+    FRMInicioFirebird &wizard_;
     int failures_ = 0;
     bool fromMenu_ = false;
 

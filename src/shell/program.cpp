@@ -9,6 +9,7 @@
 #include "shell/catalogue_screens.h"
 #include "shell/frm_acceso_login.h"
 #include "shell/frm_control_panel.h"
+#include "shell/frm_inicio_firebird_wizard.h"
 #include "shell/frm_inicio_splash.h"
 #include "shell/frm_pass_password.h"
 #include "shell/frm_version_about.h"
@@ -92,6 +93,7 @@ struct Program::Parts {
     std::unique_ptr<FRMAlumnos> alumnos;
     std::unique_ptr<FRMVersion> version;
     std::unique_ptr<FRMPass> password;
+    std::unique_ptr<FRMInicioFirebird> wizard;
     std::unique_ptr<FRMAcceso> login;
     std::unique_ptr<FRMInicio> splash;
     std::unique_ptr<FRMClose> cierre;
@@ -185,7 +187,10 @@ void Program::createResidents() {
     parts.version = std::make_unique<FRMVersion>(context);
     parts.version->setParent(&window, Qt::Dialog);
     parts.password = std::make_unique<FRMPass>(context);
-    parts.login = std::make_unique<FRMAcceso>(context, window, *parts.password, parts.update);
+    parts.wizard = std::make_unique<FRMInicioFirebird>(context, window);
+    parts.wizard->setParent(&window, Qt::Dialog);
+    parts.login =
+        std::make_unique<FRMAcceso>(context, window, *parts.password, parts.update, *parts.wizard);
     parts.login->setParent(&window, Qt::Dialog);
     parts.password->setParent(&window, Qt::Dialog);
     runGuarded([&] { parts.login->formCreate(); });

@@ -243,19 +243,6 @@ TEST(Login, CentreThatIsNotOfTheCampusTakesTheFirstRow) {
     EXPECT_TRUE(station.enabled("I1"));
 }
 
-TEST(Login, EmptyClinicSaysThatItHasNoCentres) {
-    ShellStation station;
-    ASSERT_TRUE(station.start());
-    run(station.program->conexion().FBOdonto, "delete from ctroatencion");
-    station.messages.expectInformation(
-        QStringLiteral("La base de datos no tiene centros de atención y el asistente que los "
-                       "registra todavía no está disponible en esta versión."));
-    station.inDialog(
-        station.login(), [] {}, [&] { station.typeUser("admin", "admin"); });
-    EXPECT_FALSE(station.stillOpen);
-    EXPECT_EQ(station.session().Prog.text(), "00000");
-}
-
 TEST(Login, RememberedUserIsWrittenAndForgotten) {
     ShellStation station;
     station.atLogin([&] {

@@ -25,7 +25,11 @@ namespace kaldo::test {
 /// clock stands on a summer's morning unless it is set.
 class ShellStation {
 public:
-    ShellStation() { clock.set(QDateTime(QDate(2024, 6, 3), QTime(9, 30))); }
+    explicit ShellStation(
+        TestInstallation::Content content = TestInstallation::Content::ExampleSchool)
+        : installation(content) {
+        clock.set(QDateTime(QDate(2024, 6, 3), QTime(9, 30)));
+    }
     ~ShellStation() {
         program.reset();
         messages.verify();
