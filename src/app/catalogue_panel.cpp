@@ -328,6 +328,9 @@ void CataloguePanel::setMode(CatalogueMode mode) {
     applyColumnsOfMode();
     for (Field *field : std::as_const(details_)) {
         field->setFieldReadOnly(!editing());
+    if (!editing() && !rules_.columns.isEmpty()) {
+        grid_->setCurrentField(rules_.columns.first().settings().field);
+    }
     }
     updateButtons();
     if (rules_.modeChanged) {

@@ -35,7 +35,7 @@ void paintHead(Band &band, const CatalogueHeading &heading, const QString &title
     band.text({kSide, 0, middle, 6}, heading.institucion, centred.size(12).bold());
     band.text({kSide, 6.4, middle, kLine}, heading.clinica, centred.size(10));
     band.text({kSide, 13.5, middle, 6}, title, centred.size(11).bold());
-    band.text({kSide, 18.1, middle, 3.8}, heading.linea, centred.size(9));
+    band.text({kSide, 17.8, middle, 3.8}, heading.linea, centred.size(9));
     const Style aside = Style().right().size(9);
     band.text({width - kSide, 0, kSide, kLine},
               QStringLiteral("Fecha: ") + formatDate(heading.fecha), aside);

@@ -532,8 +532,10 @@ Statement NamedQuery::updateStatement(Parameters *values) const {
             row[at].isValid() == pending_->before[at].isValid()) {
             continue;
         }
-        changes += QStringLiteral("%1 = :v%2").arg(columnInText(columns_[at].name)).arg(at);
-        values->append({QStringLiteral("v%1").arg(at), row[at]});
+        // Named as the column is: a value that doesn't fit is told with the parameter's name.
+        changes +=
+            QStringLiteral("%1 = :%2").arg(columnInText(columns_[at].name), columns_[at].name);
+        values->append({columns_[at].name, row[at]});
     }
     if (changes.isEmpty()) {
         return {};

@@ -48,9 +48,10 @@ QSet<QWidget *> reachedByTab(QWidget &form) {
     QSet<QWidget *> reached;
     QWidget *at = nextInTabOrder(&form);
     if (!at) {
-        // The form itself is passed over as the start; look from its first child.
+        // The form itself is passed over as the start, with all that is inside: start at a control.
         const QList<QWidget *> children = form.findChildren<QWidget *>();
-        at = children.isEmpty() ? nullptr : nextInTabOrder(children.first());
+        const auto control = std::find_if(children.begin(), children.end(), isControl);
+        at = control == children.end() ? nullptr : nextInTabOrder(*control);
     }
     while (at && !reached.contains(at)) {
         reached += at;
