@@ -325,12 +325,12 @@ void CataloguePanel::setMode(CatalogueMode mode) {
     mode_ = mode;
     grid_->setRowEdit(editing());
     grid_->setRowSelection(!editing());
-    applyColumnsOfMode();
-    for (Field *field : std::as_const(details_)) {
-        field->setFieldReadOnly(!editing());
     if (!editing() && !rules_.columns.isEmpty()) {
         grid_->setCurrentField(rules_.columns.first().settings().field);
     }
+    applyColumnsOfMode();
+    for (Field *field : std::as_const(details_)) {
+        field->setFieldReadOnly(!editing());
     }
     updateButtons();
     if (rules_.modeChanged) {
