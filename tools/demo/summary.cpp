@@ -1,13 +1,8 @@
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
-#include <cmath>
-#include <iostream>
 
 #include "data/firebird_connection.h"
+#include "tools/demo/readback.h"
 #include "tools/demo/road.h"
 
 namespace kaldo {
@@ -34,38 +29,6 @@ constexpr ExpectedNote kExpected[] = {
     {"SERVICIOS DE CLINICA", 300, 300, 0, 0, 0, 0}, {"PUBLICO GENERAL", 180, 0, 0, 0, 180, 0},
     {"PUBLICO GENERAL", 320, 320, 0, 0, 0, 180},
 };
-
-class Check {
-public:
-    void that(bool holds, const QString &what) {
-        if (!holds) {
-            std::cerr << "demo: " << what.toStdString() << '\n';
-            good_ = false;
-        }
-    }
-    bool good() const { return good_; }
-
-private:
-    bool good_ = true;
-};
-
-QList<QVariantMap> rowsOf(Connection &connection, const QString &text) {
-    const auto result = connection.select({QStringLiteral("summary"), text}, {});
-    QList<QVariantMap> rows;
-    Row row;
-    while (result->fetch(row)) {
-        QVariantMap values;
-        for (std::size_t at = 0; at < row.size(); ++at) {
-            values.insert(result->columns()[at].name.toLower(), row[at]);
-        }
-        rows += values;
-    }
-    return rows;
-}
-
-bool same(double left, double right) {
-    return std::abs(left - right) < 0.00005;
-}
 
 QJsonObject noteObject(const QVariantMap &row) {
     QJsonObject note;
@@ -173,12 +136,7 @@ bool writeSummary(const QString &root, const QString &folder) {
                               {"cut", cut},
                               {"receipts", QJsonArray::fromStringList(receipts)},
                               {"holds", check.good()}};
-    QFile file(files.filePath(QStringLiteral("summary.json")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(summary).toJson()) <= 0) {
-        std::cerr << "demo: summary.json can't be written\n";
-        return false;
-    }
-    return check.good();
+    return writeSummaryFile(folder, summary) && check.good();
 }
 
 }  // namespace kaldo

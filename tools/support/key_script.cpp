@@ -14,6 +14,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace kaldo {
 
 namespace {
@@ -216,6 +218,14 @@ QImage desktopPicture() {
     if (ground == nullptr) {
         return {};
     }
+    // A modal window stands over those that wait for it, a pop-up over all.
+    std::stable_sort(above.begin(), above.end(), [](QWidget *left, QWidget *right) {
+        const auto height = [](QWidget *window) {
+            const bool front = window == QApplication::activeModalWidget();
+            return window->windowType() == Qt::Popup ? 2 : front ? 1 : 0;
+        };
+        return height(left) < height(right);
+    });
     QPixmap picture = ground->grab();
     QPainter painter(&picture);
     for (QWidget *window : above) {
