@@ -12,6 +12,13 @@ insert into tipo_formapago (idtipo, tipopago) values (3, 'CHEQUE');
 insert into tipo_formapago (idtipo, tipopago) values (4, 'TARJETA');
 insert into tipo_formapago (idtipo, tipopago) values (10, 'PRESTACION');
 
+-- No screen keeps the units that the price list offers.
+insert into unidadmedida (unimed, descr) values (1, 'SERVICIO');
+insert into unidadmedida (unimed, descr) values (2, 'PIEZA');
+insert into unidadmedida (unimed, descr) values (3, 'CUADRANTE');
+insert into unidadmedida (unimed, descr) values (4, 'ARCADA');
+insert into unidadmedida (unimed, descr) values (5, 'SESION');
+
 -- The plain patient.
 insert into prestaciones (prestacion, descripcion, beneficiario) values (1, 'PACIENTE GENERAL', '');
 

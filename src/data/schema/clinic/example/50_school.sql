@@ -142,12 +142,6 @@ update tipo_formapago
    set generoid = 1, grupoid = 1, cgrubroid = 1, cuentaid = 1, subctaid = 1,
        nomenclatura = '1.1.1.1.1';
 
-insert into unidadmedida (unimed, descr) values (1, 'SERVICIO');
-insert into unidadmedida (unimed, descr) values (2, 'PIEZA');
-insert into unidadmedida (unimed, descr) values (3, 'CUADRANTE');
-insert into unidadmedida (unimed, descr) values (4, 'ARCADA');
-insert into unidadmedida (unimed, descr) values (5, 'SESION');
-
 insert into labexternos (subsubcta, prog, descr, domicilio, colonia, ciudad, telefono, correo,
                          responsable, nomenclatura, activo, rfc, cp, tipo_prod, campus)
 values (301, 12510, 'LABORATORIO DENTAL DEL VALLE', 'CALLE MORELOS 410', 'CENTRO', 'VALLE NORTE',
