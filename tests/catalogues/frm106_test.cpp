@@ -62,11 +62,6 @@ TEST_F(FRM106Test, LaboratoryIsWrittenChangedAndDeletedByKeysAlone) {
     enter("2a2880");
     EXPECT_EQ(stored(303, "cp||rfc||activo").toString(), "22880SUYOX");
 
-    press(Qt::Key_F2);
-    press(Qt::Key_Up);
-    EXPECT_FALSE(panel()->editing());
-    answer(kRemove, Answer::No);
-    alt(Qt::Key_B);
     answer(kRemove);
     alt(Qt::Key_B);
     EXPECT_FALSE(stored(303, "subsubcta").isValid());
