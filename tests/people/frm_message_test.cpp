@@ -4,7 +4,6 @@
 
 #include <QLabel>
 
-#include "tests/support/accessibility.h"
 #include "tests/support/keys.h"
 #include "tests/support/test_station.h"
 
@@ -21,7 +20,6 @@ TEST(FRMMessageTest, StandsBesideTheWorkUntilItIsClosed) {
     settle();
     EXPECT_EQ(child<QLabel>(&message, "Expediente")->text(), "00012/24");
     EXPECT_FALSE(message.isModal());
-    checkAccessibility(message);
     picture(&message, "frmmessage");
     press(Qt::Key_Return);
     EXPECT_FALSE(message.isVisible());
