@@ -83,10 +83,14 @@ void addText(QByteArray &block, char item, const QString &text) {
     block += bytes;
 }
 
-QByteArray databaseParameters(const FirebirdLogin &login) {
+enum class Password { Given, LeftOut };
+
+QByteArray databaseParameters(const FirebirdLogin &login, Password password) {
     QByteArray block(1, isc_dpb_version1);
     addText(block, isc_dpb_user_name, login.user);
-    addText(block, isc_dpb_password, login.password);
+    if (password == Password::Given) {
+        addText(block, isc_dpb_password, login.password);
+    }
     addText(block, isc_dpb_lc_ctype, QStringLiteral("UTF8"));
     block += static_cast<char>(isc_dpb_utf8_filename);
     block += '\0';
@@ -101,13 +105,16 @@ QByteArray databaseParameters(const FirebirdLogin &login) {
     return block;
 }
 
+bool isEmbedded(const QString &database) {
+    return QFileInfo(database).isAbsolute();
+}
+
 /// The embedded engine keeps its lock table in a folder of the machine that the first user of it
 /// owns. Another user's program gets one beside the database, before its first attach.
 void chooseLockFolder(const QString &database) {
 #ifdef Q_OS_UNIX
     const QFileInfo shared(QStringLiteral("/tmp/firebird"));
-    const bool embedded = QFileInfo(database).isAbsolute();
-    if (!embedded || qEnvironmentVariableIsSet("FIREBIRD_LOCK") || !shared.exists() ||
+    if (!isEmbedded(database) || qEnvironmentVariableIsSet("FIREBIRD_LOCK") || !shared.exists() ||
         shared.isWritable()) {
         return;
     }
@@ -118,6 +125,24 @@ void chooseLockFolder(const QString &database) {
 #else
     Q_UNUSED(database);
 #endif
+}
+
+std::shared_ptr<FirebirdAttachment> attached(const QString &connection, const QString &path,
+                                             const FirebirdLogin &login) {
+    auto attachment = std::make_shared<FirebirdAttachment>(connection);
+    attachment->attach(path, login);
+    return attachment;
+}
+
+/// What fails here fails again, and tells it, when it is to run.
+void prepareAhead(FirebirdAttachment &attachment, const std::vector<Statement> &statements) {
+    try {
+        for (const Statement &statement : statements) {
+            attachment.giveBack(std::make_unique<FirebirdStatement>(attachment, statement),
+                                statement.text);
+        }
+    } catch (const DatabaseError &) {
+    }
 }
 
 class FirebirdResultSet final : public ResultSet {
@@ -275,10 +300,18 @@ void FirebirdStatement::bind(const Parameters &values, const Statement &statemen
 
 void FirebirdAttachment::attach(const QString &path, const FirebirdLogin &login) {
     const QByteArray name = path.toUtf8();
-    const QByteArray block = databaseParameters(login);
     FirebirdStatus status(connection, QString());
-    isc_attach_database(status.vector(), static_cast<short>(name.size()), name.constData(),
-                        &database, static_cast<short>(block.size()), block.constData());
+    const auto attempt = [&](Password password) {
+        const QByteArray block = databaseParameters(login, password);
+        return isc_attach_database(status.vector(), static_cast<short>(name.size()),
+                                   name.constData(), &database, static_cast<short>(block.size()),
+                                   block.constData()) == 0;
+    };
+    // The engine in the process asks for no password, and is quicker without one. Where it can't
+    // open the file, a server of this machine may, and that one asks.
+    if (!isEmbedded(path) || !attempt(Password::LeftOut)) {
+        attempt(Password::Given);
+    }
     status.check();
     isc_start_transaction(status.vector(), &reading, 1, &database,
                           static_cast<int>(readTransaction.size()), readTransaction.data());
@@ -333,17 +366,37 @@ bool FirebirdConnection::isOpen() const {
     return attachment_ != nullptr;
 }
 
+void FirebirdConnection::beginOpen(const FirebirdConnection *before) {
+    if (isOpen() || opening_.valid()) {
+        return;
+    }
+    chooseLockFolder(database());
+    const auto turn = before != nullptr ? before->opening_ : decltype(opening_)();
+    opening_ = std::async(std::launch::async, [connection = name(), path = database(),
+                                               login = login_, first = first_, turn] {
+        if (turn.valid()) {
+            turn.wait();
+        }
+        auto attachment = attached(connection, path, login);
+        prepareAhead(*attachment, first);
+        return attachment;
+    });
+}
+
 void FirebirdConnection::open() {
     if (isOpen()) {
         return;
     }
+    if (opening_.valid()) {
+        attachment_ = std::exchange(opening_, {}).get();
+        return;
+    }
     chooseLockFolder(database());
-    auto attachment = std::make_shared<FirebirdAttachment>(name());
-    attachment->attach(database(), login_);
-    attachment_ = std::move(attachment);
+    attachment_ = attached(name(), database(), login_);
 }
 
 void FirebirdConnection::close() {
+    forgetOpening();
     if (attachment_) {
         attachment_->detach();
         attachment_.reset();
