@@ -2,11 +2,18 @@
 
 #include "toolkit/forms/button.h"
 
+#include <QCoreApplication>
+#include <QImageReader>
 #include <QPainter>
+#include <QPointer>
+#include <QThreadPool>
 
 namespace kaldo {
 
 namespace {
+
+/// How long the size must have stood still.
+constexpr std::chrono::milliseconds kRest(50);
 
 const QColor kGroundTop(0xf8, 0xfa, 0xfb);
 const QColor kGroundBottom(0xdd, 0xe8, 0xea);
@@ -22,12 +29,15 @@ Backdrop::Backdrop(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setFocusPolicy(Qt::NoFocus);
+    rest_.setSingleShot(true);
+    rest_.setInterval(kRest);
+    connect(&rest_, &QTimer::timeout, this, [this] { readPicture(); });
 }
 
-void Backdrop::setPicture(const QPixmap &picture) {
-    picture_ = picture;
+void Backdrop::setPicture(const QString &file) {
+    file_ = QImageReader(file).canRead() ? file : QString();
     stretched_ = QPixmap();
-    if (picture_.isNull()) {
+    if (!hasPicture()) {
         captionColour_ = kGroundText;
         linkColour_ = kGroundLink;
     }
@@ -54,18 +64,58 @@ void Backdrop::setCaptionColours(const QColor &caption, const QColor &link) {
 void Backdrop::paintEvent(QPaintEvent *) {
     QPainter painter(viewport());
     const QRect area = viewport()->rect();
-    if (picture_.isNull()) {
-        paintGround(painter, area);
+    if (hasPicture()) {
+        paintPicture(painter, area);
     } else {
-        const QSize pixels = area.size() * devicePixelRatioF();
-        if (stretched_.size() != pixels) {
-            stretched_ = picture_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        }
-        painter.drawPixmap(area, stretched_);
+        paintGround(painter, area);
+        paintMark(painter, area);
     }
     if (captionVisible_) {
         paintCaption(painter, area);
     }
+}
+
+void Backdrop::paintPicture(QPainter &painter, const QRect &area) {
+    if (stretched_.size() != pictureSize() && !reading_) {
+        rest_.start();
+    }
+    if (stretched_.isNull()) {
+        paintGround(painter, area);
+    } else {
+        painter.drawPixmap(area, stretched_);
+    }
+}
+
+QSize Backdrop::pictureSize() const {
+    return viewport()->size() * devicePixelRatioF();
+}
+
+void Backdrop::readPicture() {
+    reading_ = true;
+    const QPointer<Backdrop> self(this);
+    QThreadPool::globalInstance()->start([self, file = file_, pixels = pictureSize()] {
+        const QImage image =
+            QImage(file).scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [self, file, image] {
+                if (self) {
+                    self->takePicture(file, image);
+                }
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void Backdrop::takePicture(const QString &file, const QImage &image) {
+    reading_ = false;
+    if (file == file_) {  // else another one has been chosen since: the next painting reads it
+        stretched_ = QPixmap::fromImage(image);
+        if (stretched_.isNull()) {
+            setPicture({});
+        }
+    }
+    viewport()->update();
 }
 
 void Backdrop::paintGround(QPainter &painter, const QRect &area) {
@@ -73,6 +123,9 @@ void Backdrop::paintGround(QPainter &painter, const QRect &area) {
     ground.setColorAt(0, kGroundTop);
     ground.setColorAt(1, kGroundBottom);
     painter.fillRect(area, ground);
+}
+
+void Backdrop::paintMark(QPainter &painter, const QRect &area) {
     const int size = qMin(area.width(), area.height()) / 3;
     const QRect mark(area.center().x() - size / 2, area.center().y() - size / 2, size, size);
     painter.setOpacity(0.14);
@@ -89,9 +142,7 @@ void Backdrop::paintCaption(QPainter &painter, const QRect &area) {
     painter.setFont(title);
     painter.setPen(captionColour_);
     painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, caption_);
-    QFont small = font();
-    small.setPointSizeF(font().pointSizeF() * 1.1);
-    painter.setFont(small);
+    painter.setFont(font());
     painter.setPen(linkColour_);
     painter.drawText(inner, Qt::AlignRight | Qt::AlignBottom, subtitle_);
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QImage>
 #include <QMdiArea>
 #include <QPixmap>
-
-class QPushButton;
+#include <QTimer>
 
 namespace kaldo {
 
@@ -15,9 +15,13 @@ class Backdrop : public QMdiArea {
 public:
     explicit Backdrop(QWidget *parent = nullptr);
 
-    /// A null picture gives a plain quiet ground with the system's mark.
-    void setPicture(const QPixmap &picture);
-    const QPixmap &picture() const { return picture_; }
+    /// A file that holds no picture gives a plain quiet ground with the system's mark. The picture
+    /// is read and stretched in the background, a moment after the area has got another size: no
+    /// window waits for it.
+    void setPicture(const QString &file);
+    bool hasPicture() const { return !file_.isEmpty(); }
+    /// As it is painted; null until the first reading has ended.
+    const QPixmap &stretched() const { return stretched_; }
     void setCaption(const QString &caption, const QString &subtitle);
     void setCaptionVisible(bool visible);
     void setCaptionColours(const QColor &caption, const QColor &link);
@@ -26,11 +30,18 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void paintPicture(QPainter &painter, const QRect &area);
+    QSize pictureSize() const;
+    void readPicture();
+    void takePicture(const QString &file, const QImage &image);
     void paintGround(QPainter &painter, const QRect &area);
+    void paintMark(QPainter &painter, const QRect &area);
     void paintCaption(QPainter &painter, const QRect &area);
 
-    QPixmap picture_;
+    QString file_;
     QPixmap stretched_;
+    QTimer rest_;  ///< from the last change of the size to the reading
+    bool reading_ = false;
     QString caption_;
     QString subtitle_;
     QColor captionColour_;

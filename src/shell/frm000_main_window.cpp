@@ -11,7 +11,6 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -78,12 +77,12 @@ void FRM000::formCreate() {
     const QString stem =
         pictureStem(context_.ini.value(QStringLiteral("Ambiente"), QStringLiteral("skin"),
                                        QStringLiteral("C:\\KALDO\\Ini\\skinblue.dll")));
-    splashPicture_ = loadPicture(stem + QStringLiteral("_splash.png"));
-    if (backdrop_->picture().isNull()) {
-        backdrop_->setPicture(loadPicture(stem + QStringLiteral(".png")));
+    splashPicture_ = QPixmap(pictureFile(stem + QStringLiteral("_splash.png")));
+    if (!backdrop_->hasPicture()) {
+        backdrop_->setPicture(pictureFile(stem + QStringLiteral(".png")));
         // What is written on a picture takes the colours of the scheme that it was drawn for.
         if (const ColourScheme *scheme = schemeOfPicture(stem);
-            scheme != nullptr && !backdrop_->picture().isNull()) {
+            scheme != nullptr && backdrop_->hasPicture()) {
             backdrop_->setCaptionColours(scheme->caption, scheme->link);
         }
     }
@@ -110,17 +109,16 @@ void FRM000::MainSkin() {
         return;  // any other name leaves the look as it is
     }
     applyScheme(*scheme);
-    backdrop_->setPicture(loadPicture(pictureOf(*scheme, context_.clock.today())));
-    if (!backdrop_->picture().isNull()) {
+    backdrop_->setPicture(pictureFile(pictureOf(*scheme, context_.clock.today())));
+    if (backdrop_->hasPicture()) {
         backdrop_->setCaptionColours(scheme->caption, scheme->link);
     }
     sideBar_->setHeaderColour(scheme->kaldoColor);
     panels_->setBarColour(scheme->kaldoColor);
 }
 
-QPixmap FRM000::loadPicture(const QString &file) const {
-    const QString path = context_.installation.map(QStringLiteral("C:/KALDO/Images/KALDO/") + file);
-    return QFile::exists(path) ? QPixmap(path) : QPixmap();
+QString FRM000::pictureFile(const QString &file) const {
+    return context_.installation.map(QStringLiteral("C:/KALDO/Images/KALDO/") + file);
 }
 
 void FRM000::showUser() {
@@ -249,7 +247,7 @@ void FRM000::showSkinNotice(Notice notice) {
     const bool telegram = notice == Notice::Telegram;
     if (const ColourScheme *scheme = schemeNamed(context_.session.SkinName)) {
         backdrop_->setPicture(
-            loadPicture(telegram ? scheme->telegramNotice : scheme->assistanceNotice));
+            pictureFile(telegram ? scheme->telegramNotice : scheme->assistanceNotice));
     }
     noticeButton_->setText(telegram ? QStringLiteral("TELEGRAM") : QStringLiteral("Entrar"));
     Panel2_->show();

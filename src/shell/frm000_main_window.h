@@ -106,7 +106,7 @@ private:
     void assignShortcuts();
     void showSkinNotice(Notice notice);
     void openNoticePage();
-    QPixmap loadPicture(const QString &file) const;
+    QString pictureFile(const QString &file) const;
 
     void openScreen(const ScreenMaker &maker);
     void place(QMdiSubWindow *window);

@@ -8,6 +8,7 @@
 #include "toolkit/forms/form.h"
 
 #include <QFile>
+#include <QTimer>
 
 namespace kaldo {
 
@@ -142,6 +143,9 @@ void FRMAcceso::activated() {
             moveFocus(Edit2_);
         }
     }
+    // The whole main window is painted anew for it: the login is seen first.
+    main_.setUpdatesEnabled(false);
+    QTimer::singleShot(0, &main_, [&main = main_] { main.setUpdatesEnabled(true); });
     main_.setEnabled(false);
     setEnabled(true);  // it belongs to the main window
 }

@@ -13,13 +13,20 @@
 
 namespace kaldo {
 
-SideBar::SideBar(QWidget *parent) : QWidget(parent) {
+SideBar::SideBar(QWidget *parent) : QWidget(parent), headerColour_(baseAccent()) {
     setObjectName(QStringLiteral("sideBar"));
     setAttribute(Qt::WA_StyledBackground);
     setFixedWidth(fontMetrics().averageCharWidth() * 30);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(8, 8, 8, 8);
     rows->setSpacing(10);
+}
+
+void SideBar::ensureBuilt() {
+    if (rateGroup_ != nullptr) {
+        return;
+    }
+    auto *rows = static_cast<QVBoxLayout *>(layout());
     rateGroup_ = makeRateGroup();
     deskGroup_ = makeDeskGroup();
     sitesGroup_ = makeSitesGroup();
@@ -27,8 +34,7 @@ SideBar::SideBar(QWidget *parent) : QWidget(parent) {
         rows->addWidget(group);
     }
     rows->addStretch();
-    setHeaderColour(baseAccent());
-    setGroups(false, false, false);
+    paintHeaders();
 }
 
 QWidget *SideBar::makeGroup(const QString &name, const QString &title, QWidget *content) {
@@ -130,17 +136,23 @@ QWidget *SideBar::makeSitesGroup() {
 }
 
 void SideBar::setGroups(bool rate, bool desk, bool sites) {
+    if (rateGroup_ == nullptr && !rate && !desk && !sites) {
+        return;
+    }
+    ensureBuilt();
     rateGroup_->setVisible(rate);
     deskGroup_->setVisible(desk);
     sitesGroup_->setVisible(sites);
 }
 
 void SideBar::setRate(const QString &rate, const QDate &today) {
+    ensureBuilt();
     rate_->setText(rate);
     today_->setText(formatDate(today));
 }
 
 void SideBar::setFigures(const std::function<QVariant(const QString &column)> &figure) {
+    ensureBuilt();
     for (const Figure &row : figures_) {
         const QVariant value = figure(QString::fromLatin1(row.column));
         row.label->setText(row.money ? formatMoney(value.toDouble())
@@ -149,9 +161,14 @@ void SideBar::setFigures(const std::function<QVariant(const QString &column)> &f
 }
 
 void SideBar::setHeaderColour(const QColor &colour) {
+    headerColour_ = colour;
+    paintHeaders();
+}
+
+void SideBar::paintHeaders() {
     for (QLabel *header : headers_) {
         QPalette palette = header->palette();
-        palette.setColor(QPalette::Window, colour);
+        palette.setColor(QPalette::Window, headerColour_);
         palette.setColor(QPalette::WindowText, Qt::white);
         header->setPalette(palette);
     }

@@ -12,7 +12,8 @@ class QLabel;
 
 namespace kaldo {
 
-/// The bar at the side of the main window: the rate, and the day's figures of the desk.
+/// The bar at the side of the main window: the rate, and the day's figures of the desk. Its groups
+/// are built when a login first needs one.
 class SideBar : public QWidget {
     Q_OBJECT
 
@@ -26,6 +27,8 @@ public:
     void setHeaderColour(const QColor &colour);
 
 private:
+    void ensureBuilt();
+    void paintHeaders();
     struct Figure {
         const char *column;
         bool money;
@@ -44,6 +47,7 @@ private:
     QLabel *today_ = nullptr;
     std::vector<Figure> figures_;
     std::vector<QLabel *> headers_;
+    QColor headerColour_;
 };
 
 }  // namespace kaldo

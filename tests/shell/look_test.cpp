@@ -36,8 +36,11 @@ void checkLook(const QString &name, const QString &user, const QString &password
             station.typeUser(user, password);
         });
     EXPECT_FALSE(station.stillOpen);
+    auto *backdrop = child<Backdrop>(&station.window(), "backdrop");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !backdrop->stretched().isNull(); }))
+        << "it is read in the background";
     picture(&station.window(), name + "_main");
-    EXPECT_FALSE(child<Backdrop>(&station.window(), "backdrop")->picture().isNull());
+    EXPECT_EQ(backdrop->stretched().size(), backdrop->viewport()->size());
     auto *group = child<QWidget>(&station.window(), "rateGroup");
     EXPECT_EQ(edgeColour(group->findChild<QLabel *>()), accent);
     station.window().openEntry("E1");
