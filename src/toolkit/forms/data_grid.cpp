@@ -205,9 +205,8 @@ void DataGrid::applyColumns() {
     for (int place = 0; place < order.size(); ++place) {
         const GridColumn::Settings &column = bySection[order[place]];
         state_->header->moveSection(state_->header->visualIndex(order[place]), place);
-        state_->header->setSectionResizeMode(
-            order[place], column.stretch ? QHeaderView::Stretch : QHeaderView::Interactive);
         if (!state_->arranged) {
+            state_->header->setSectionResizeMode(order[place], QHeaderView::Interactive);
             setColumnWidth(order[place], columnPixels(column));
         }
     }

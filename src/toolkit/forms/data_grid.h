@@ -43,7 +43,7 @@ public:
     /// Sum of the column in the footer, under this mask.
     GridColumn &sum(CellMask mask = CellMask::MoneyTight);
     GridColumn &hidden();
-    /// This column takes what width is left.
+    /// This column takes what width is left, never less than its own.
     GridColumn &stretch();
 
     struct Settings {
@@ -178,6 +178,7 @@ private:
     struct State;
 
     void applyColumns();
+    void fitStretched();
     void watchModel();
     void sumsChanged();
     void afterEnter();

@@ -383,6 +383,7 @@ void DataGrid::updateGeometries() {
         return;
     }
     state_->inGeometry = true;
+    fitStretched();
     QTableView::updateGeometries();
     const int footer = state_->footer->sizeHint().height();
     QMargins margins = viewportMargins();
@@ -398,6 +399,22 @@ void DataGrid::updateGeometries() {
     state_->footer->setGeometry(view.left(), view.bottom() + 1, view.width(), footer);
     state_->footer->setVisible(footer > 0);
     state_->inGeometry = false;
+}
+
+void DataGrid::fitStretched() {
+    for (auto column = state_->bySection.cbegin(); column != state_->bySection.cend(); ++column) {
+        if (!column->stretch || isColumnHidden(column.key())) {
+            continue;
+        }
+        const int section = column.key();
+        const int others = state_->header->length() - columnWidth(section);
+        const bool room = viewport()->width() - others >= columnPixels(*column);
+        const auto mode = room ? QHeaderView::Stretch : QHeaderView::Interactive;
+        if (state_->header->sectionResizeMode(section) != mode) {
+            state_->header->setSectionResizeMode(section, mode);
+            setColumnWidth(section, columnPixels(*column));
+        }
+    }
 }
 
 QSize DataGrid::sizeHint() const {
