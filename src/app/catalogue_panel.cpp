@@ -182,7 +182,11 @@ bool CataloguePanel::commitInput() {
 }
 
 void CataloguePanel::save() {
-    if (!editing() || !commitInput() || (rules_.accept && !rules_.accept())) {
+    if (!editing() || !commitInput()) {
+        return;
+    }
+    moveFocus(grid_);
+    if (rules_.accept && !rules_.accept()) {
         return;
     }
     const Answer answer = context_.messages.confirm(rules_.saveQuestion);
@@ -206,13 +210,11 @@ void CataloguePanel::save() {
             cancel();
         } else {
             rules_.query->edit();
-            moveFocus(grid_);
         }
         throw;
     }
     reload();
     rules_.query->locate(place);
-    moveFocus(grid_);
     if (rules_.saved) {
         rules_.saved();
     }
@@ -250,6 +252,7 @@ void CataloguePanel::remove() {
     if (answer == Answer::Ended) {
         return;
     }
+    moveFocus(grid_);
     if (answer == Answer::No && rules_.removeRefused) {
         rules_.removeRefused();
     }

@@ -10,7 +10,7 @@ using report::Band;
 using report::Style;
 
 constexpr double kLine = 4.8;
-constexpr double kCaption = 32;
+constexpr double kCaption = 40;
 
 }  // namespace
 

@@ -20,7 +20,7 @@ CatalogueRules FRM100::centres() {
     rules.keys = {u"centro"_s};
     rules.columns = {
         GridColumn(u"CENTRO"_s, u"Centro"_s, 6).limit(4).upper().editable(),
-        GridColumn(u"DESCR"_s, u"Descripción"_s, 38).limit(80).upper().editable(),
+        GridColumn(u"DESCR"_s, u"Descripción"_s, 38).limit(80).upper().stretch().editable(),
         GridColumn(u"DOMICILIO"_s, u"Domicilio"_s, 28).limit(60).upper().editable(),
         GridColumn(u"COLONIA"_s, u"Colonia"_s, 20).limit(60).upper().editable(),
         GridColumn(u"TELEFONO1"_s, u"Teléfono"_s, 14).limit(15).editable(),

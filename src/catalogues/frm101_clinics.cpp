@@ -43,7 +43,7 @@ CatalogueRules FRM101::clinics() {
         GridColumn(u"TIPO_SERV"_s, u"Tipo Servicio"_s, 26)
             .choices({u"AP - SERVICIOS DE CLINICA"_s, u"AD - ADMISION"_s}, 2)
             .editable(),
-        GridColumn(u"RESPONSABLE"_s, u"Responsable"_s, 34).limit(80).editable(),
+        GridColumn(u"RESPONSABLE"_s, u"Responsable"_s, 28).limit(80).stretch().editable(),
     };
     rules.fixedOnEdit = {u"AREA"_s};
     rules.saveQuestion = u"La información es correcta?"_s;

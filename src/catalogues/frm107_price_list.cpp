@@ -72,10 +72,6 @@ CatalogueRules FRM107::prices() {
         row.set(u"vigente"_s, u"S"_s);
         row.set(u"tipo_prod"_s, context().odonto.AreaVenta.value(u"tipo_prod"_s));
     };
-    rules.openRow = [this, &items] {
-        items.edit();
-        context().finanzas.tipodeiva.locate({{u"tipodeiva"_s, items.value(u"tipodeiva"_s)}});
-    };
     const bool accounts = options().ContabilidadGubernamental;
     const auto reopening = [](NamedQuery &list) {
         return [&list] {
@@ -101,12 +97,15 @@ CatalogueRules FRM107::prices() {
         {u"CLAVEPRODSERV"_s, [] { return EnterResult::Save; }},
     };
     rules.complete = [this] { return completeRow(); };
-    rules.modeChanged = [this](CatalogueMode mode) {
+    rules.modeChanged = [this, accounts](CatalogueMode mode) {
         const bool consult = mode == CatalogueMode::Consult;
         borrarLista_->setEnabled(consult && !context().odonto.Listaprecios1.isEmpty());
         // What either of them does would take the open row along.
         area_->setEnabled(consult);
         duplicados_->setEnabled(consult);
+        if (!consult && accounts) {
+            context().finanzas.tipodeiva.open();
+        }
     };
     return rules;
 }
@@ -119,7 +118,7 @@ QList<GridColumn> FRM107::priceColumns() {
     };
     return {
         GridColumn(u"CVE_PROD"_s, u"Clave"_s, 7).mask(CellMask::Integer).editable(),
-        GridColumn(u"DESCR"_s, u"Descripción"_s, 44).limit(150).upper().editable(),
+        GridColumn(u"DESCR"_s, u"Descripción"_s, 38).limit(150).upper().stretch().editable(),
         GridColumn(u"VIGENTE"_s, u"Vigente"_s, 7).yesNo().editable(),
         GridColumn(u"LKUMEDIDA"_s, u"Unidad Medida"_s, 14)
             .lookup({&context().odonto.UMedida,
@@ -222,7 +221,11 @@ bool FRM107::completeRow() {
     row.set(u"codigo"_s, itemCode(row.integer(u"tipo_prod"_s), row.integer(u"cve_prod"_s)));
     row.set(u"nomenclatura"_s,
             QString(area.text(u"nomenclatura"_s) + u'.' + row.text(u"subsubcta"_s)));
-    row.set(u"porcentajeiva"_s, context().finanzas.tipodeiva.value(u"porcentaje"_s));
+    NamedQuery &tipodeiva = context().finanzas.tipodeiva;
+    if (tipodeiva.isOpen()) {
+        const bool taxed = tipodeiva.locate({{u"tipodeiva"_s, row.value(u"tipodeiva"_s)}});
+        row.set(u"porcentajeiva"_s, taxed ? tipodeiva.value(u"porcentaje"_s) : QVariant());
+    }
     row.set(u"fecha_mov"_s, context().clock.today());
     return true;
 }

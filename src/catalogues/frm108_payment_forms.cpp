@@ -21,8 +21,9 @@ CatalogueRules FRM108::paymentForms() {
     CatalogueRules rules;
     rules.query = &context().odonto.TipoForma;
     rules.keys = {u"idtipo"_s};
-    rules.columns = {GridColumn(u"IDTIPO"_s, u"Tipo"_s, 7).mask(CellMask::Integer).editable(),
-                     GridColumn(u"TIPOPAGO"_s, u"Descripción"_s, 48).limit(80).upper().editable()};
+    rules.columns = {
+        GridColumn(u"IDTIPO"_s, u"Tipo"_s, 7).mask(CellMask::Integer).editable(),
+        GridColumn(u"TIPOPAGO"_s, u"Descripción"_s, 36).limit(80).upper().stretch().editable()};
     rules.columns += levels_.columns(accounts);
     rules.columns += accounts ? path : GridColumn(path).hidden();
     rules.fixedOnEdit = {u"IDTIPO"_s};

@@ -42,7 +42,7 @@ protected:
     void open() {
         screen.reset();
         screen = std::make_unique<S>(station.context);
-        screen->resize(screen->sizeHint());
+        screen->resize(screen->sizeHint().expandedTo({820, 500}));
         screen->open();
         showActive(screen.get());
         grid()->setFocus();

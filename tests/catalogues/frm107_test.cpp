@@ -1,6 +1,7 @@
 #include "catalogues/frm107_price_list.h"
 
 #include "catalogues/item_code.h"
+#include "data/catalogue_texts.h"
 #include "tests/catalogues/catalogue_test.h"
 
 namespace kaldo::test {
@@ -12,8 +13,31 @@ protected:
     void choose(const QString &area) {
         auto *field = child<LookupField>(screen.get(), "AreaVentas");
         field->setFocus();
+        field->selectAll();
         settle();
         enter(area);
+    }
+    QVariant stored(int codigo, const QString &column) {
+        return inClinic("select " + column + " from listaprecios where codigo=:c", {{"c", codigo}});
+    }
+    int items(int area) {
+        return inClinic("select count(*) from listaprecios where tipo_prod=:t", {{"t", area}})
+            .toInt();
+    }
+    /// Chooses campus, area and programme of the copy; the focus is on its button.
+    void tellCopy(const QString &campus, const QString &area) {
+        auto *strip = child<QWidget>(screen.get(), "PanelDuplicados");
+        if (!strip->isVisible()) {
+            child<IconButton>(screen.get(), "Duplicados")->setFocus();
+            press(Qt::Key_Space);
+        }
+        auto *ciudad = child<LookupField>(strip, "Ciudad");
+        ciudad->setFocus();
+        ciudad->selectAll();
+        settle();
+        enter(campus);
+        enter(area);
+        enter("980");
     }
 };
 
@@ -43,15 +67,183 @@ TEST_F(FRM107Test, PriceIsAddedAndChangedByKeysAlone) {
     enter("1,250.50");
     station.messages.verify();
     const int codigo = itemCode(area, 987);
-    const auto stored = [&](const QString &column) {
-        return inClinic("select " + column + " from listaprecios where codigo=:c", {{"c", codigo}});
-    };
-    EXPECT_EQ(stored("descr").toString(), "RESINA DE PRUEBA");
-    EXPECT_EQ(stored("menudeo").toDouble(), 1250.5);
-    EXPECT_EQ(stored("vigente").toString(), "S");
-    EXPECT_EQ(stored("fecha_mov").toDate(), station.clock.today());
+    EXPECT_EQ(stored(codigo, "descr||vigente").toString(), "RESINA DE PRUEBAS");
+    EXPECT_EQ(stored(codigo, "menudeo").toDouble(), 1250.5);
+    EXPECT_EQ(stored(codigo, "fecha_mov").toDate(), station.clock.today());
     EXPECT_EQ(query().integer("codigo"), codigo);
-    screen->previewReport();
+
+    station.clock.set(station.clock.now().addDays(3));
+    press(Qt::Key_F2);
+    EXPECT_EQ(grid()->currentField(), "DESCR");
+    EXPECT_FALSE(child<LookupField>(screen.get(), "AreaVentas")->isEnabled());
+    grid()->setCurrentField("MENUDEO");
+    enter("x1.2.3$");  // letters can't be typed, and this is no number
+    EXPECT_TRUE(grid()->editorOpen());
+    press(Qt::Key_Escape);
+    typeText("1,300.10");
+    changeInClinic("update listaprecios set menudeo=7, descr='LO SUYO' where codigo=:c",
+                   {{"c", codigo}});
+    answer(kSave);
+    refuseWrite();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(panel()->editing());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(panel()->editing());
+    EXPECT_EQ(stored(codigo, "menudeo").toDouble(), 7);
+
+    press(Qt::Key_F2);
+    grid()->setCurrentField("MENUDEO");
+    answer(kSave);
+    enter("1300.10");
+    EXPECT_EQ(stored(codigo, "menudeo").toDouble(), 1300.1);
+    EXPECT_EQ(stored(codigo, "fecha_mov").toDate(), station.clock.today());
+    answer(kRemove);
+    alt(Qt::Key_B);
+    EXPECT_FALSE(stored(codigo, "descr").isValid());
+}
+
+TEST_F(FRM107Test, RefusesATakenCodeBeyondThreeDigitsToo) {
+    open();
+    choose("ADMISION");
+    alt(Qt::Key_I);
+    const QString taken =
+        "La clave ya se encuentra registrada para esta área y tipo de servicio, presione cualquier "
+        "tecla para continuar.";
+    for (const char *clave : {"1", "2999", "002"}) {
+        EXPECT_EQ(grid()->currentField(), "CVE_PROD");
+        if (QString(clave) == "2999") {
+            changeInClinic("update listaprecios set codigo=1299 where codigo=1003");
+        }
+        station.messages.expectWarning(taken);
+        enter(clave);
+        EXPECT_TRUE(query().isNull("cve_prod"));
+        EXPECT_FALSE(button("SpeedButton3")->isEnabled());
+    }
+    press(Qt::Key_Up);
+    EXPECT_FALSE(panel()->editing());
+    EXPECT_EQ(query().count(), 3);
+}
+
+TEST_F(FRM107Test, TheTaxFollowsTheRowWhereAccountsAreAskedFor) {
+    const QStringList accounts = {"PROG", "SUBSUBCTA", "TIPODEIVA", "CLASIFICACIONIVA",
+                                  "CLAVEPRODSERV"};
+    open();
+    choose("ADMISION");
+    const auto hidden = [this](const QString &field) {
+        return grid()->isColumnHidden(fieldSection(query(), field));
+    };
+    EXPECT_TRUE(std::all_of(accounts.begin(), accounts.end(), hidden));
+    press(Qt::Key_F2);
+    answer(kSave);
+    alt(Qt::Key_G);
+    EXPECT_EQ(stored(1001, "tipodeiva||'/'||nomenclatura").toString(), "3/4.1.7.1.1.101");
+    EXPECT_EQ(stored(1001, "porcentajeiva").toDouble(), 0) << "the list of taxes was never opened";
+
+    station.options.ContabilidadGubernamental = true;
+    open();
+    choose("ADMISION");
+    EXPECT_TRUE(std::none_of(accounts.begin(), accounts.end(), hidden));
+    const auto change = [this](const QString &tipodeiva) {
+        press(Qt::Key_F2);
+        grid()->setCurrentField("MENUDEO");
+        enter("160");
+        enter("12520");
+        enter("101");
+        enter(tipodeiva);
+        enter("1");
+        EXPECT_EQ(grid()->currentField(), "CLAVEPRODSERV");
+        answer(kSave);
+        enter("85122001");
+    };
+    for (const auto &[tipo, percent] : {std::pair{"1", 16.0}, {"", 16.0}, {"3", 0.0}}) {
+        change(tipo);
+        EXPECT_EQ(stored(1001, "porcentajeiva").toDouble(), percent) << tipo;
+    }
+    picture(screen.get(), "frm107_accounts");
+    EXPECT_EQ(stored(1001, "prog").toString(), "12520");
+    EXPECT_TRUE(report::pageText(preview("frm107_accounts"), 0).contains("T. Iva"));
+}
+
+TEST_F(FRM107Test, CopiesTheListIntoAnotherCampus) {
+    changeInClinic("delete from listaprecios where tipo_prod in (51, 52)");
+    open();
+    choose("APERTURA");
+    const int count = items(2);
+    station.messages.expectWarning(
+        "¡Solo se pueden duplicar áreas a otras ciudades, verifique su información!");
+    child<IconButton>(screen.get(), "Duplicados")->setFocus();
+    press(Qt::Key_Space);
+    enter("VAN");
+    auto *generate = child<Button>(screen.get(), "Generar");
+    EXPECT_FALSE(generate->isEnabled());
+    tellCopy("COS", "APERTURA DE");
+    EXPECT_TRUE(generate->hasFocus());
+    picture(screen.get(), "frm107_copy");
+    // The third is there already: the copy ends at it, those before it stay.
+    changeInClinic("insert into listaprecios (codigo, cve_prod, tipo_prod) values (52003, 3, 52)");
+    const QString question = "¿Los datos proporcionados son correctos para generar este proceso? ";
+    answer(question);
+    station.messages.expect(MessageKind::Error, "*");
+    press(Qt::Key_Return);
+    EXPECT_EQ(items(52), 3);
+    EXPECT_EQ(station.frame.progressEnded, 1);
+    EXPECT_EQ(station.frame.progressSteps, 2);
+
+    changeInClinic("delete from listaprecios where tipo_prod=52");
+    answer(question);
+    station.messages.expectInformation(
+        "La información ha sido registrada correctamente, presione "
+        "cualquier tecla para continuar.");
+    generate->setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(items(52), count);
+    EXPECT_EQ(stored(52004, "prog||'/'||descr").toString(),
+              "980/REPOSICION DE EXPEDIENTE INFANTIL");
+    for (const char *column : {"menudeo", "fecha_mov", "subsubcta", "nomenclatura", "tipodeiva",
+                               "porcentajeiva", "clasificacioniva", "claveprodserv", "vigente"}) {
+        EXPECT_EQ(stored(52004, column), stored(2004, column)) << column;
+    }
+    EXPECT_EQ(station.frame.progressSteps, 2 + count);
+    EXPECT_FALSE(generate->isEnabled());
+    EXPECT_TRUE(child<LookupField>(screen.get(), "AreaDestino")->text().isEmpty());
+}
+
+TEST_F(FRM107Test, EndsTheListOfOneAreaAlone) {
+    open();
+    auto *ending = child<Button>(screen.get(), "BorrarLista");
+    EXPECT_FALSE(ending->isEnabled());
+    choose("APERTURA");
+    const int others = inClinic("select count(*) from listaprecios where tipo_prod<>2").toInt();
+    ending->setFocus();
+    const QString question = "¿Se borrarán todos los productos de esta área, desea proceder?";
+    answer(question, Answer::No);
+    press(Qt::Key_Space);
+    EXPECT_GT(items(2), 0);
+    answer(question);
+    station.messages.expectInformation(
+        "La información ha sido eliminado correctamente, presione cualquier tecla para continuar.");
+    press(Qt::Key_Space);
+    EXPECT_EQ(items(2), 0);
+    EXPECT_EQ(inClinic("select count(*) from listaprecios").toInt(), others);
+    EXPECT_FALSE(ending->isEnabled() || button("SpeedButton2")->isEnabled());
+    EXPECT_EQ(borrarPreciosText(2).odbc().trimmed(), "Delete from ListaPrecios");
+}
+
+TEST_F(FRM107Test, LongListsBreakWellAndAnEmptyOnePreviewsNothing) {
+    station.session.Ciudad = "Valle Norte";
+    open();
+    const report::Document document = preview("frm107");
+    ASSERT_GT(document.pageCount(), 10);
+    for (int number = 0; number < document.pageCount(); ++number) {
+        const QString page = report::pageText(document, number);
+        EXPECT_TRUE(page.contains(QString("No. página: %1\n").arg(number + 1)));
+        EXPECT_TRUE(page.contains("Lista de Precios Valle Norte\n"));
+        const auto titles = page.indexOf("Clave\n");
+        const auto line = page.indexOf("$");
+        EXPECT_TRUE(titles >= 0 && titles < line) << number;
+    }
+    changeInClinic("delete from listaprecios");
+    EXPECT_EQ(preview("frm107").pageCount(), 0);
 }
 
 }  // namespace
