@@ -5,6 +5,9 @@
 #include "toolkit/forms/form.h"
 
 #include <QStackedWidget>
+#include <QTimer>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -131,7 +134,9 @@ void FRMInicioFirebird::showAges(Ages &ages) {
     if (all.locate({{u"descr"_s, ages.area}})) {
         offered.open({{u"tipo"_s, all.value(u"tipo_prod"_s)}});
         ages.tipoProd = offered.integer(u"tipo_prod"_s);
+        offered.close();
     }
+    all.close();
     ages.group->setVisible(ages.tipoProd > 0);
 }
 

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "catalogues/centre_areas_report.h"
 #include "catalogues/two_lists.h"
 #include "data/database_error.h"
 #include "tests/support/accessibility.h"
@@ -99,16 +98,6 @@ TEST_F(FRM102Test, AreasGoToAndFroByKeysAlone) {
     EXPECT_EQ(stored(), 0);
     EXPECT_EQ(buttons(), "1100");
     EXPECT_EQ(stored("centro='01'"), 23) << "another centre keeps its own";
-}
-
-TEST_F(FRM102Test, BusinessSeesTheFirstTenAreas) {
-    station.options.sector = Sector::Empresarial;
-    run(station.clinic(), "delete from serviciosxctro where centro='02'");
-    open("CLINICA DE ESP");
-    EXPECT_EQ(grid("AreasDisponibles")->model()->rowCount(), 10);
-    push("AgregarTodas");
-    EXPECT_EQ(stored(), 10);
-    EXPECT_EQ(buttons(), "0011");
 }
 
 TEST_F(FRM102Test, RefusedWriteKeepsThoseBeforeIt) {
