@@ -26,6 +26,7 @@ void FRMMessage::build() {
 void FRMMessage::tell(const QString &expediente) {
     ensureBuilt();
     Expediente_->setText(expediente);
+    setModal(false);
     show();
     raise();
     activateWindow();
