@@ -58,6 +58,12 @@ void Dialog::keyPressEvent(QKeyEvent *event) {
         event->accept();
         return;
     }
+    // The shortcut of the menu doesn't reach over a modal window.
+    if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) {
+        context().frame.openEntry(QStringLiteral("K1"));
+        event->accept();
+        return;
+    }
     QDialog::keyPressEvent(event);
 }
 

@@ -226,11 +226,20 @@ void FRM000::FiltroAdmision(const QString &entry, AdmissionFilter filter) {
 }
 
 void FRM000::showHelp() {
-    auto *help = findChild<HelpWindow *>();
+    // A modal dialog takes the input of all windows but its own.
+    auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+    QWidget *host = dialog != nullptr ? static_cast<QWidget *>(dialog) : this;
+    auto *help = host->findChild<HelpWindow *>(QString(), Qt::FindDirectChildrenOnly);
     if (help == nullptr) {
-        help = new HelpWindow(this);
+        help = new HelpWindow(host);
+        if (dialog != nullptr) {
+            connect(dialog, &QDialog::finished, help, &QWidget::close);
+        }
     }
-    const Screen *screen = childScreen();
+    const QWidget *screen = dialog;
+    if (screen == nullptr) {
+        screen = childScreen();
+    }
     help->showPage(screen != nullptr ? screen->objectName() : objectName());
 }
 
