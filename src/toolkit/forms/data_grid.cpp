@@ -133,9 +133,19 @@ void DataGrid::setModel(QAbstractItemModel *model) {
     cancelEditor();
     state_->rows->setSourceModel(model);
     state_->arranged = false;
+    state_->fields = modelFields();
     watchModel();
     applyColumns();
     sumsChanged();
+}
+
+QStringList DataGrid::modelFields() const {
+    QStringList fields;
+    const int count = sourceModel() ? sourceModel()->columnCount() : 0;
+    for (int section = 0; section < count; ++section) {
+        fields += sourceModel()->headerData(section, Qt::Horizontal).toString();
+    }
+    return fields;
 }
 
 void DataGrid::setColumns(const QList<GridColumn> &columns) {
@@ -163,10 +173,7 @@ void DataGrid::watchModel() {
     };
     // A query that is opened again with the same columns finds them as they are.
     const auto rearrange = [this, arrange] {
-        QStringList fields;
-        for (int section = 0; section < sourceModel()->columnCount(); ++section) {
-            fields += sourceModel()->headerData(section, Qt::Horizontal).toString();
-        }
+        const QStringList fields = modelFields();
         if (fields == state_->fields) {
             sumsChanged();
         } else {

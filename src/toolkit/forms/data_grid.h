@@ -180,6 +180,7 @@ private:
     void applyColumns();
     void fitStretched();
     void watchModel();
+    QStringList modelFields() const;
     void sumsChanged();
     void afterEnter();
     bool arrowKey(QKeyEvent *event);

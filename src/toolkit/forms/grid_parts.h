@@ -148,7 +148,7 @@ struct DataGrid::State {
     bool inGeometry = false;
     bool fieldMoved = false;
     bool arranged = false;
-    QStringList fields;  ///< of the model, when a reset last arranged the columns
+    QStringList fields;  ///< of the model, when the columns were last arranged
     bool readOnly = false;
     bool tabHeld = false;
     bool sortable = false;
