@@ -71,15 +71,13 @@ report::Document layoutClinics(const CatalogueHeading &heading, const QList<Clin
             table.row({row.area, row.descr, row.prog, row.tipoServ, row.responsable});
         const bool newCentre = !before || before->centro != row.centro;
         if (newCentre || before->tipoProd != row.tipoProd) {
-            std::vector<report::Band> group;
-            if (newCentre) {
-                group.push_back(centreHead(row));
-            }
-            group.insert(group.end(), {areaHead(row), table.titles(), line});
+            report::Band area = areaHead(row);
+            area.append(table.titles());
+            const report::Band whole = centreHead(row).append(area);
             layout.repeatOnNewPages(std::nullopt);
             layout.skip(!before ? 0 : newCentre ? kCentreGap : kAreaGap);
-            layout.placeTogether(group);
-            layout.repeatOnNewPages(table.titles());
+            layout.placeTogether({newCentre ? whole : area, line});
+            layout.repeatOnNewPages(whole);
         } else {
             layout.place(line);
         }

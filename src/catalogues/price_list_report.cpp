@@ -12,15 +12,17 @@ namespace {
 
 using report::Align;
 
+constexpr double kAreaGap = 2;
+
 ReportTable priceTable(bool accounts) {
     QList<ReportColumn> columns = {{u"Clave"_s, 13, Align::Right},
                                    {u"Descripción"_s, 0},
-                                   {u"Unidad Medida"_s, 26},
+                                   {u"Unidad Medida"_s, 25},
                                    {u"Vigente"_s, 14, Align::Center},
-                                   {u"Precio"_s, 24, Align::Right}};
+                                   {u"Precio"_s, 21, Align::Right}};
     if (accounts) {
-        columns += {{u"Programa"_s, 17},    {u"Subsubcta"_s, 18}, {u"T. Iva"_s, 11},
-                    {u"Clasif. IVA"_s, 13}, {u"Subsubcta"_s, 32}, {u"Clave Prod Serv"_s, 18}};
+        columns += {{u"Programa"_s, 16},    {u"Subsubcta"_s, 17}, {u"T. Iva"_s, 11},
+                    {u"Clasif. IVA"_s, 13}, {u"Subsubcta"_s, 27}, {u"Clave Prod Serv"_s, 18}};
     }
     return ReportTable(columns, catalogueWidth(true));
 }
@@ -80,11 +82,13 @@ report::Document layoutPriceList(const CatalogueHeading &heading, const QString 
     for (const PriceListRow &row : rows) {
         const report::Band line = table.row(priceCells(row));
         if (before == nullptr || before->tipoProd != row.tipoProd) {
+            report::Band head =
+                groupBand(u"Área Venta"_s, u"%1   %2"_s.arg(row.tipoProd).arg(row.area));
+            head.append(table.titles());
             layout.repeatOnNewPages(std::nullopt);
-            layout.placeTogether(
-                {groupBand(u"Área Venta"_s, u"%1   %2"_s.arg(row.tipoProd).arg(row.area)),
-                 table.titles(), line});
-            layout.repeatOnNewPages(table.titles());
+            layout.skip(before == nullptr ? 0 : kAreaGap);
+            layout.placeTogether({head, line});
+            layout.repeatOnNewPages(head);
         } else {
             layout.place(line);
         }

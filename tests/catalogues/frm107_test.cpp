@@ -133,6 +133,8 @@ TEST_F(FRM107Test, TheTaxFollowsTheRowWhereAccountsAreAskedFor) {
         return grid()->isColumnHidden(fieldSection(query(), field));
     };
     EXPECT_TRUE(std::all_of(accounts.begin(), accounts.end(), hidden));
+    const auto width = [this] { return grid()->columnWidth(fieldSection(query(), "CVE_PROD")); };
+    const int before = width();
     press(Qt::Key_F2);
     answer(kSave);
     alt(Qt::Key_G);
@@ -143,6 +145,7 @@ TEST_F(FRM107Test, TheTaxFollowsTheRowWhereAccountsAreAskedFor) {
     open();
     choose("ADMISION");
     EXPECT_TRUE(std::none_of(accounts.begin(), accounts.end(), hidden));
+    EXPECT_EQ(width(), before);
     const auto change = [this](const QString &tipodeiva) {
         press(Qt::Key_F2);
         grid()->setCurrentField("MENUDEO");
@@ -241,6 +244,7 @@ TEST_F(FRM107Test, LongListsBreakWellAndAnEmptyOnePreviewsNothing) {
         const auto titles = page.indexOf("Clave\n");
         const auto line = page.indexOf("$");
         EXPECT_TRUE(titles >= 0 && titles < line) << number;
+        EXPECT_LT(page.indexOf("Área Venta\n"), titles) << number;
     }
     changeInClinic("delete from listaprecios");
     EXPECT_EQ(preview("frm107").pageCount(), 0);

@@ -120,6 +120,14 @@ void Band::growTo(double heightMm) {
     height_ = std::max(height_, heightMm);
 }
 
+Band &Band::append(const Band &below) {
+    const std::vector<Item> items = below.itemsAt({0.0, height_});
+    items_.insert(items_.end(), items.begin(), items.end());
+    height_ += below.height_;
+    designed_ = height_;
+    return *this;
+}
+
 std::vector<Item> Band::itemsAt(const QPointF &origin) const {
     std::vector<Item> result;
     result.reserve(spans_.size() + items_.size());

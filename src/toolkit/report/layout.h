@@ -59,6 +59,9 @@ public:
     /// A box from x to x + width as high as the band turns out to be, painted under all the rest.
     Band &fullHeightBox(double x, double width, double penMm = 0.2, const QColor &fill = {});
 
+    /// Sets another band below what stands here, as one band from now on.
+    Band &append(const Band &below);
+
     double height() const { return height_; }
     void setHeight(double heightMm);
     /// Makes the band at least so high.
