@@ -7,6 +7,7 @@
 #include "app/catalogue_panel.h"
 #include "app/screen.h"
 #include "data/database_error.h"
+#include "tests/support/accessibility.h"
 #include "tests/support/documents.h"
 #include "tests/support/keys.h"
 #include "tests/support/test_station.h"
@@ -47,6 +48,7 @@ protected:
         showActive(screen.get());
         grid()->setFocus();
         settle();
+        checkAccessibility(*screen);
     }
     CataloguePanel *panel() { return child<CataloguePanel>(screen.get(), panelName()); }
     DataGrid *grid() { return panel()->grid(); }

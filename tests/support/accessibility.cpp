@@ -118,6 +118,12 @@ bool isClipped(const QWidget *widget) {
     return widget->minimumSizeHint().height() > size.height() + 1;
 }
 
+/// A button may have given the letter of its caption away.
+QKeySequence letterOf(QWidget *widget) {
+    const auto *button = qobject_cast<QAbstractButton *>(widget);
+    return button ? button->shortcut() : QKeySequence::mnemonic(captionOf(widget));
+}
+
 }  // namespace
 
 QStringList accessibilityFaults(QWidget &form) {
@@ -137,7 +143,7 @@ QStringList accessibilityFaults(QWidget &form) {
                 faults += QStringLiteral("%1 has no accessible name").arg(nameOf(widget));
             }
         }
-        const QString mnemonic = QKeySequence::mnemonic(captionOf(widget)).toString();
+        const QString mnemonic = letterOf(widget).toString();
         if (!mnemonic.isEmpty() && widget->isEnabled()) {
             if (QWidget *other = mnemonics.value(mnemonic)) {
                 faults += QStringLiteral("%1 and %2 share %3")
