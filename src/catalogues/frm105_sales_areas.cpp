@@ -114,7 +114,7 @@ QList<GridColumn> FRM105::areaColumns() {
     QList<GridColumn> columns = {
         GridColumn(u"TIPO_PROD"_s, u"Area"_s, 5).mask(CellMask::Integer).editable(),
         GridColumn(u"DESCR"_s, u"Descripción"_s, 30).limit(80).upper().stretch().editable(),
-        GridColumn(u"DIRIGIDOA"_s, u"Dirigido a"_s, 34).choices(salesFamilies(), 2).editable(),
+        GridColumn(u"DIRIGIDOA"_s, u"Dirigido a"_s, 40).choices(salesFamilies(), 2).editable(),
         GridColumn(u"ORIGEN"_s, u"Origen"_s, 15).choices(salesOrigins(), 2).editable(),
         GridColumn(u"VIGENTE"_s, u"Vigente"_s, 7).yesNo().editable(),
     };

@@ -29,15 +29,15 @@ void add(FRM000 &window, Context &context, const char *entry) {
 
 void registerCatalogues(FRM000 &window, Context &context) {
     add<FRM100>(window, context, "B1");
-    add<FRM103>(window, context, "B4");
-    add<FRM104>(window, context, "B5");
     add<FRM105>(window, context, "B2");
     add<FRM102>(window, context, "B3");
+    add<FRM103>(window, context, "B4");
+    add<FRM104>(window, context, "B5");
     add<FRM101>(window, context, "B6");
-    add<FRM106>(window, context, "B10");
     add<FRM108>(window, context, "B7");
     add<FRM109>(window, context, "B8");
     add<FRM107>(window, context, "B9");
+    add<FRM106>(window, context, "B10");
     add<FRM110>(window, context, "B11");
     add<FRM111>(window, context, "B12");
     add<FRMControlUsuarios>(window, context, "I1");
