@@ -21,14 +21,14 @@ QString decode(QByteArray bytes) {
     return utf8.hasError() ? QString::fromLatin1(bytes) : text;
 }
 
-bool isSection(const QString &line, const QString &section) {
-    const QString trimmed = line.trimmed();
+bool isSection(QStringView line, QStringView section) {
+    const QStringView trimmed = line.trimmed();
     return trimmed.startsWith(u'[') && trimmed.endsWith(u']') &&
            trimmed.mid(1, trimmed.size() - 2).trimmed().compare(section, Qt::CaseInsensitive) == 0;
 }
 
-bool isAnySection(const QString &line) {
-    const QString trimmed = line.trimmed();
+bool isAnySection(QStringView line) {
+    const QStringView trimmed = line.trimmed();
     return trimmed.startsWith(u'[') && trimmed.endsWith(u']');
 }
 
@@ -57,7 +57,7 @@ qsizetype IniFile::sectionLine(const QString &section) const {
 
 qsizetype IniFile::keyLine(qsizetype sectionLine, const QString &key) const {
     for (qsizetype at = sectionLine + 1; at < lines_.size() && !isAnySection(lines_.at(at)); ++at) {
-        const QString &line = lines_.at(at);
+        const QStringView line(lines_.at(at));
         const qsizetype equals = line.indexOf(u'=');
         if (equals > 0 && !line.trimmed().startsWith(u';') &&
             line.left(equals).trimmed().compare(key, Qt::CaseInsensitive) == 0) {

@@ -206,7 +206,9 @@ ListPopup::ListPopup(QWidget *owner)
 
 void ListPopup::setSource(const LookupSource &source) {
     source_ = source;
-    proxy_->setSourceModel(source.model);
+    if (isVisible()) {
+        proxy_->setSourceModel(source.model);
+    }
 }
 
 void ListPopup::setFiltering(bool on) {
@@ -263,6 +265,7 @@ void ListPopup::open(int row) {
     }
     typed_.clear();
     fetchUntil(source_.model, std::max(row, kRowsShown));
+    proxy_->setSourceModel(source_.model);
     arrangeColumns();
     place();
     show();
@@ -274,6 +277,12 @@ void ListPopup::open(int row) {
     table_->setCurrentIndex(current.siblingAtColumn(shown));
     (filter_->isVisible() ? static_cast<QWidget *>(filter_) : table_)
         ->setFocus(Qt::PopupFocusReason);
+}
+
+void ListPopup::hideEvent(QHideEvent *event) {
+    QFrame::hideEvent(event);
+    // A closed list has nothing to do with what happens to its rows.
+    proxy_->setSourceModel(nullptr);
 }
 
 bool ListPopup::seek(const QString &prefix) {
