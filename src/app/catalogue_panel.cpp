@@ -10,6 +10,14 @@
 
 namespace kaldo {
 
+namespace {
+
+// What a list would like to show; 1024 x 768 has room for it beside a page of details.
+constexpr int kRows = 12;
+constexpr int kSmallRows = 3;
+
+}  // namespace
+
 CataloguePanel::CataloguePanel(Context &context, QWidget *parent, const QString &name)
     : QWidget(parent), context_(context) {
     setObjectName(name);
@@ -83,6 +91,7 @@ void CataloguePanel::build() {
                         .grow(),
                 }));
     layout()->setContentsMargins(0, 0, 0, 0);
+    grid_->setShownRows(rules_.small ? kSmallRows : kRows);
     for (IconButton *button : std::as_const(navigator_)) {
         button->setVisible(!rules_.small);
     }
@@ -148,6 +157,25 @@ void CataloguePanel::edit() {
     removeAllowed_ = false;
     setMode(CatalogueMode::Edit);
     editAt(rules_.editAt);
+}
+
+void CataloguePanel::addOpenDetail(NumberField *field, const QString &column) {
+    addDetail(field, column);
+    // After the binding, which opens the row and writes into it.
+    connectGuarded(field, &QLineEdit::textEdited, this, [this] { editInPlace(); });
+    openDetail_ = field;
+    setMode(mode_);
+}
+
+void CataloguePanel::editInPlace() {
+    if (editing()) {
+        return;
+    }
+    inserting_ = false;
+    rules_.query->edit();
+    saveAllowed_ = true;
+    removeAllowed_ = false;
+    setMode(CatalogueMode::Edit);
 }
 
 void CataloguePanel::editAt(const QString &wanted) {
@@ -334,6 +362,9 @@ void CataloguePanel::setMode(CatalogueMode mode) {
     applyColumnsOfMode();
     for (Field *field : std::as_const(details_)) {
         field->setFieldReadOnly(!editing());
+    }
+    if (openDetail_) {
+        openDetail_->setFieldReadOnly(rules_.query->isEmpty());
     }
     updateButtons();
     if (rules_.modeChanged) {

@@ -135,6 +135,9 @@ public:
         field->setFieldReadOnly(!editing());
     }
 
+    /// A field that takes input in consult mode too: the row is open from the first stroke on.
+    void addOpenDetail(NumberField *field, const QString &column);
+
     NamedQuery &query() const { return *rules_.query; }
     DataGrid *grid() const { return grid_; }
     Button *insertButton() const { return insert_; }
@@ -153,6 +156,7 @@ private:
     void applyColumnsOfMode();
     void enterColumn(const QString &field);
     void editAt(const QString &wanted);
+    void editInPlace();
     Parameters keyValues() const;
     /// False while a cell or a detail field holds what it can't take; it has told so.
     bool commitInput();
@@ -165,6 +169,7 @@ private:
     Context &context_;
     CatalogueRules rules_;
     QList<Field *> details_;
+    Field *openDetail_ = nullptr;
     Button *insert_ = nullptr;
     Button *remove_ = nullptr;
     Button *save_ = nullptr;

@@ -103,7 +103,7 @@ void FRM100::buildForm() {
                       .hidden(),
               }));
     panel_->addDetail(descripcion_, u"descripcion"_s);
-    panel_->addDetail(cp_, u"cp"_s);
+    panel_->addOpenDetail(cp_, u"cp"_s);
     panel_->addDetail(responsable_, u"responsable"_s);
     panel_->addDetail(prog_, u"prog"_s);
     panel_->addDetail(correoto_, u"correoto"_s);

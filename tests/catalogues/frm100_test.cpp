@@ -94,6 +94,14 @@ TEST_F(FRM100Test, LastWriteWinsAndAFailedOneKeepsTheRowOpen) {
     EXPECT_EQ(stored("01", "domicilio").toString(), "CALLE DEL \"MAR\" 5%");
     EXPECT_TRUE(stored("01", "responsable").toString().contains("O'HARA"));
 
+    child<NumberField>(screen.get(), "cp")->setFocus();  // takes input in consult mode too
+    child<NumberField>(screen.get(), "cp")->selectAll();
+    typeText("987654x");
+    EXPECT_TRUE(panel()->editing() && button("SpeedButton3")->isEnabled());
+    answer(kSave);
+    alt(Qt::Key_G);
+    EXPECT_EQ(stored("01", "cp").toInt(), 98765);
+
     station.session.Origen = "";
     alt(Qt::Key_I);
     enter("Y7");

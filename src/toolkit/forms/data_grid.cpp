@@ -223,6 +223,11 @@ void DataGrid::applyColumns() {
     updateGeometries();
 }
 
+void DataGrid::setShownRows(int rows) {
+    state_->shownRows = rows;
+    updateGeometry();
+}
+
 int DataGrid::columnPixels(const GridColumn::Settings &column) const {
     const int title = fontMetrics().horizontalAdvance(column.title);
     return std::max(fontMetrics().averageCharWidth() * column.width, title) + 18;

@@ -121,6 +121,8 @@ public:
     void setCurrentField(const QString &field);
     /// The raw value of a field in the current row; invalid for none.
     QVariant currentValue(const QString &field) const;
+    /// The rows that it would like to have room for; 8 unless told.
+    void setShownRows(int rows);
     void setColumnVisible(const QString &field, bool visible);
     void setColumnTitle(const QString &field, const QString &title);
     void setColumnEditable(const QString &field, bool editable);

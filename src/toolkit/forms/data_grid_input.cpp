@@ -418,9 +418,8 @@ void DataGrid::fitStretched() {
 }
 
 QSize DataGrid::sizeHint() const {
-    const int rows = 8;
     const int height = state_->header->sizeHint().height() +
-                       rows * verticalHeader()->defaultSectionSize() +
+                       state_->shownRows * verticalHeader()->defaultSectionSize() +
                        state_->footer->sizeHint().height() + 2 * frameWidth();
     // By the columns that are told, since a window takes its size before its query is open.
     int columns = 0;

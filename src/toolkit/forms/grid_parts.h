@@ -144,6 +144,7 @@ struct DataGrid::State {
     QPointer<QLineEdit> editor;
     QPersistentModelIndex edited;
     QString textBefore;
+    int shownRows = 8;
     bool rowSelection = true;
     bool inGeometry = false;
     bool fieldMoved = false;
