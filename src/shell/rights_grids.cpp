@@ -170,7 +170,8 @@ void RightsGrid::set(int row, bool ticked) {
 
 void RightsGrid::keyPressEvent(QKeyEvent *event) {
     const int row = currentIndex().row();
-    switch (event->modifiers() & ~Qt::KeypadModifier ? 0 : event->key()) {
+    const Qt::KeyboardModifiers plain = Qt::KeypadModifier | Qt::ShiftModifier;
+    switch (event->modifiers() & ~plain ? 0 : event->key()) {
         case Qt::Key_Up:
             goTo(neighbour(row, -1));
             break;

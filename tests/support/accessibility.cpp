@@ -47,11 +47,10 @@ bool takesInput(const QWidget *widget) {
 QSet<QWidget *> reachedByTab(QWidget &form) {
     QSet<QWidget *> reached;
     QWidget *at = nextInTabOrder(&form);
-    if (!at) {
-        // The form itself is passed over as the start, with all that is inside: start at a control.
-        const QList<QWidget *> children = form.findChildren<QWidget *>();
-        const auto control = std::find_if(children.begin(), children.end(), isControl);
-        at = control == children.end() ? nullptr : nextInTabOrder(*control);
+    // The form itself is passed over as the start with all that is inside, and so is a panel in it.
+    const QList<QWidget *> children = form.findChildren<QWidget *>();
+    for (int child = 0; !at && child < children.size(); ++child) {
+        at = nextInTabOrder(children.at(child));
     }
     while (at && !reached.contains(at)) {
         reached += at;
