@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -11,19 +12,28 @@ namespace kaldo {
 
 namespace {
 
-/// Decimal digits of a non-negative count of 10^-decimals, grouped by thousands.
-QString groupedDigits(quint64 count, int decimals) {
-    QString digits = QString::number(count).rightJustified(decimals + 1, QLatin1Char('0'));
-    QString whole = digits.left(digits.size() - decimals);
-    for (qsizetype at = whole.size() - 3; at > 0; at -= 3) {
-        whole.insert(at, QLatin1Char(','));
+/// A count of 10^-decimals in the mask, grouped by thousands. Written backwards into one buffer:
+/// a form shows a dozen amounts at each step.
+QString masked(bool negative, quint64 count, int decimals, MoneyMask mask) {
+    std::array<QChar, 40> text;
+    auto at = text.end();
+    for (int digit = 0; digit <= decimals || count > 0; ++digit) {
+        if (digit == decimals) {
+            *--at = u'.';
+        } else if (digit > decimals && (digit - decimals) % 3 == 0) {
+            *--at = u',';
+        }
+        *--at = QChar(u'0' + static_cast<char16_t>(count % 10));
+        count /= 10;
     }
-    return whole + QLatin1Char('.') + digits.right(decimals);
-}
-
-QString masked(bool negative, const QString &digits, MoneyMask mask) {
-    const QLatin1String sign = mask == MoneyMask::Tight ? QLatin1String("$") : QLatin1String("$ ");
-    return (negative ? QLatin1String("-") : QLatin1String("")) + sign + digits;
+    if (mask == MoneyMask::Spaced) {
+        *--at = u' ';
+    }
+    *--at = u'$';
+    if (negative) {
+        *--at = u'-';
+    }
+    return QString(&*at, text.end() - at);
 }
 
 }  // namespace
@@ -45,14 +55,14 @@ QString formatMoney(Money amount, MoneyMask mask) {
     const quint64 magnitude =
         count < 0 ? 0 - static_cast<quint64>(count) : static_cast<quint64>(count);
     const quint64 cents = (magnitude + 50) / 100;
-    return masked(count < 0 && cents > 0, groupedDigits(cents, 2), mask);
+    return masked(count < 0 && cents > 0, cents, 2, mask);
 }
 
 QString formatMoneyFourDecimals(Money amount) {
     const qint64 count = amount.tenThousandths();
     const quint64 magnitude =
         count < 0 ? 0 - static_cast<quint64>(count) : static_cast<quint64>(count);
-    return masked(count < 0, groupedDigits(magnitude, 4), MoneyMask::Tight);
+    return masked(count < 0, magnitude, 4, MoneyMask::Tight);
 }
 
 QString formatPlainNumber(double value) {
