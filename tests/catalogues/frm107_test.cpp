@@ -146,6 +146,9 @@ TEST_F(FRM107Test, TheTaxFollowsTheRowWhereAccountsAreAskedFor) {
     choose("ADMISION");
     EXPECT_TRUE(std::none_of(accounts.begin(), accounts.end(), hidden));
     EXPECT_EQ(width(), before);
+    screen->resize(820, 500);
+    settle();
+    EXPECT_GT(grid()->columnWidth(fieldSection(query(), "DESCR")), 200) << "the list scrolls";
     const auto change = [this](const QString &tipodeiva) {
         press(Qt::Key_F2);
         grid()->setCurrentField("MENUDEO");
