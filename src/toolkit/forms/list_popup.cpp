@@ -202,6 +202,7 @@ ListPopup::ListPopup(QWidget *owner)
     filter_->installEventFilter(this);
     connect(table_, &QTableView::clicked, this, &ListPopup::pick);
     connect(filter_, &QLineEdit::textChanged, this, &ListPopup::applyFilter);
+    setEnabled(false);
 }
 
 void ListPopup::setSource(const LookupSource &source) {
@@ -266,6 +267,7 @@ void ListPopup::open(int row) {
     typed_.clear();
     fetchUntil(source_.model, std::max(row, kRowsShown));
     proxy_->setSourceModel(source_.model);
+    setEnabled(true);
     arrangeColumns();
     place();
     show();
@@ -281,8 +283,9 @@ void ListPopup::open(int row) {
 
 void ListPopup::hideEvent(QHideEvent *event) {
     QFrame::hideEvent(event);
-    // A closed list has nothing to do with what happens to its rows.
+    // A closed list has nothing to do with what happens to its rows and to its field.
     proxy_->setSourceModel(nullptr);
+    setEnabled(false);
 }
 
 bool ListPopup::seek(const QString &prefix) {
