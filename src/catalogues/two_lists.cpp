@@ -20,6 +20,13 @@ QList<GridColumn> areaColumns() {
             GridColumn(u"DESCR"_s, u"Descripción"_s, 34).stretch()};
 }
 
+/// To the row where the cursor was, else to the last one; a list on its first row stays unread.
+void moveBack(NamedQuery &list, int row) {
+    if (row > 0 && !list.moveTo(row)) {
+        list.moveTo(list.count() - 1);
+    }
+}
+
 }  // namespace
 
 TwoLists::TwoLists(Context &context, QWidget *parent, const QString &name)
@@ -102,8 +109,8 @@ void TwoLists::reload() {
     added.cancelUpdates();
     available.open({{u"centro"_s, centro_}, {u"cd"_s, context_.session.Origen.text()}});
     added.open({{u"cent"_s, centro_}});
-    available.moveTo(std::min(places[0], available.count() - 1));
-    added.moveTo(std::min(places[1], added.count() - 1));
+    moveBack(available, places[0]);
+    moveBack(added, places[1]);
     updateButtons();
     emit reloaded();
 }

@@ -61,12 +61,21 @@ void NamedQuery::addCalculated(const QString &field, Calculation calculation) {
 
 void NamedQuery::addLookup(const QString &field, const QString &key, NamedQuery &source,
                            const QString &sourceKey, const QString &result) {
-    lookups_.push_back({field.toUpper(), key.toUpper(), &source, sourceKey, result, {}, false});
+    lookups_.push_back({field.toUpper(), key.toUpper(), &source, sourceKey, result, {}, 0});
     const std::size_t place = lookups_.size() - 1;
-    const auto forget = [this, place] { lookups_[place].read = false; };
+    const auto forget = [this, place] {
+        lookups_[place].known.clear();
+        lookups_[place].read = 0;
+    };
     connect(&source, &QAbstractItemModel::dataChanged, this, forget);
     connect(&source, &QAbstractItemModel::modelReset, this, forget);
     connect(&source, &QAbstractItemModel::rowsRemoved, this, forget);
+    connect(&source, &QAbstractItemModel::rowsInserted, this,
+            [this, place, forget](const QModelIndex &, int first) {
+                if (first < lookups_[place].read) {
+                    forget();
+                }
+            });
     connect(&source, &NamedQuery::opened, this, [this] {
         if (!rows_.empty()) {
             emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
@@ -293,16 +302,23 @@ QVariant NamedQuery::lookUp(Lookup &lookup, int row) const {
     if (!key.isValid() || !lookup.source->isOpen()) {
         return QVariant();
     }
-    if (!lookup.read) {
-        lookup.known.clear();
-        const int count = lookup.source->count();
-        for (int at = count - 1; at >= 0; --at) {
-            lookup.known.insert(lookup.source->valueAt(at, lookup.sourceKey).toString(),
-                                lookup.source->valueAt(at, lookup.result));
+    const QString wanted = key.toString();
+    NamedQuery &source = *lookup.source;
+    while (!lookup.known.contains(wanted)) {
+        if (lookup.read == source.rowCount()) {
+            if (!source.result_) {
+                return QVariant();
+            }
+            source.fetchPage(nextPage);
         }
-        lookup.read = true;
+        for (; lookup.read < source.rowCount(); ++lookup.read) {
+            const QString found = source.valueAt(lookup.read, lookup.sourceKey).toString();
+            if (!lookup.known.contains(found)) {
+                lookup.known.insert(found, source.valueAt(lookup.read, lookup.result));
+            }
+        }
     }
-    return lookup.known.value(key.toString());
+    return lookup.known.value(wanted);
 }
 
 void NamedQuery::setState(State state) {

@@ -67,8 +67,8 @@ public:
     void setFilter(RowFilter filter) { filter_ = std::move(filter); }
 
     /// Adds a field that looks `key` up among the rows of `source` and gives its `result`.
-    /// To set the field is to set `key`. Each row of `source` is read once per opening of it, the
-    /// first with a key counts. `source` must outlive this query.
+    /// To set the field is to set `key`. Each row of `source` is read once per opening of it, and
+    /// no further than to the first that has the key. `source` must outlive this query.
     void addLookup(const QString &field, const QString &key, NamedQuery &source,
                    const QString &sourceKey, const QString &result);
 
@@ -147,8 +147,8 @@ private:
         NamedQuery *source;
         QString sourceKey;
         QString result;
-        QHash<QString, QVariant> known;  ///< results by key, of the source's present rows
-        bool read = false;
+        QHash<QString, QVariant> known;  ///< results by key, of the source's first rows
+        int read = 0;                    ///< how many these are
     };
     struct Pending {
         enum class Kind { Insert, Update, Delete } kind;

@@ -196,6 +196,36 @@ TEST_F(NamedQueryTest, CalculatedAndLookedUpFieldsFollowTheirSources) {
     EXPECT_EQ(stored()[0][1].toString(), "x") << "such fields are not written";
 }
 
+TEST_F(NamedQueryTest, ALookupReadsNoFurtherThanItsKeyAndFollowsItsSource) {
+    run(connection,
+        "insert into lineas select 7, 1000 + row_number() over (), 'fila', 1 from rdb$fields rows "
+        "100");
+    NamedQuery names{{"Nombres", "select * from lineas order by clave", "lineas", "tipo,clave"}};
+    names.bindTo(connection);
+    query.addLookup("LKClave", "clave", names, "clave", "texto");
+    query.open({{"tipo", 96}});
+    names.open();
+    const int page = names.rowCount();
+    ASSERT_LT(page, 103);
+    EXPECT_EQ(query.valueAt(1, "LKClave").toString(), "linea 2");
+    EXPECT_EQ(names.rowCount(), page);
+    query.set("clave", 1100);
+    EXPECT_EQ(query.text("LKClave"), "fila");
+    query.set("clave", 5000);
+    EXPECT_TRUE(query.isNull("LKClave"));
+    EXPECT_EQ(names.rowCount(), 103);
+    names.append();
+    names.set("clave", 5000);
+    names.set("texto", "ultima");
+    EXPECT_EQ(query.text("LKClave"), "ultima");
+    names.cancelUpdates();
+    EXPECT_TRUE(query.isNull("LKClave"));
+    names.insertFirst();
+    names.set("clave", 5000);
+    names.set("texto", "primera");
+    EXPECT_EQ(query.text("LKClave"), "primera");
+}
+
 TEST_F(NamedQueryTest, RepeatedColumnNamesAreNumbered) {
     NamedQuery sums{{"Sumas",
                      "select max(a.clave), min(a.clave), max(a.cant), a.texto, b.texto from lineas "
