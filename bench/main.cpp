@@ -27,6 +27,8 @@ const std::vector<Measurement> &measurements() {
         {"payment-note", paymentNote},
         {"receipt", receipt},
         {"cash-cut", cashCut},
+        {"catalogues", catalogues},
+        {"price-list", priceListCopy},
         {"memory", memory},
     };
     return all;

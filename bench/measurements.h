@@ -22,6 +22,11 @@ Results receipt();
 /// The cash cut of 10,000 notes against its bare statements.
 Results cashCut();
 
+/// Each catalogue over a table of 10,000 rows, opened and painted.
+Results catalogues();
+/// A price list copied into other sales areas, against its bare statements.
+Results priceListCopy();
+
 /// Resident memory after many registered notes. Runs in a process of its own.
 Results memory();
 /// What that process does: prints its two figures.
