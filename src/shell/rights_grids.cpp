@@ -105,7 +105,7 @@ RightsGrid::RightsGrid(NamedQuery &rights, const RightGroup &group, QWidget *par
     setVerticalScrollMode(ScrollPerPixel);
     setShowGrid(false);
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 5);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 3);
     verticalHeader()->setMinimumSectionSize(0);
     QHeaderView *title = horizontalHeader();
     title->setHighlightSections(false);

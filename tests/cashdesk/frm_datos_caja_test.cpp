@@ -53,26 +53,18 @@ TEST_F(FRMDatosCajaTest, DeskIsOpenedByKeysAlone) {
     answer(kSave);
     enter("3");
     station.messages.verify();
-    const QList<std::pair<QString, QVariant>> expected = {{"nota_vta", 2024000001},
-                                                          {"nombre", "CAJA NORTE"},
-                                                          {"origen", "INGRESOS \"NORTE\" 100%"},
-                                                          {"campus", "2"},
-                                                          {"prog_pol", 12510},
-                                                          {"bancomn", 3},
-                                                          {"bancodll", 2},
-                                                          {"serie", "D"},
-                                                          {"serien", "ND"},
-                                                          {"correoto", "Caja7@Escuela.example"},
-                                                          {"autoriza", "admin"},
-                                                          {"tipopaquete", 1},
-                                                          {"paqueteid", "ING-9"},
-                                                          {"fechapaquete", QDate(2024, 3, 15)},
-                                                          {"sistemaid", 5},
-                                                          {"pk_tipo_caja", 1},
-                                                          {"tipoliza", 3}};
-    for (const auto &[column, value] : expected) {
-        EXPECT_EQ(stored(7, column).toString(), value.toString()) << column.toStdString();
+    QStringList cells;
+    for (const QVariant &cell :
+         rowsOf(station.clinic(),
+                "select nota_vta, nombre, origen, campus, prog_pol, bancomn, bancodll, serie, "
+                "serien, correoto, autoriza, tipopaquete, paqueteid, fechapaquete, sistemaid, "
+                "pk_tipo_caja, tipoliza from datoscaja where num_caja=7")
+             .value(0)) {
+        cells += cell.toString();
     }
+    EXPECT_EQ(cells.join('|'),
+              "2024000001|CAJA NORTE|INGRESOS \"NORTE\" 100%|2|12510|3|2|D|ND|"
+              "Caja7@Escuela.example|admin|1|ING-9|2024-03-15|5|1|3");
     EXPECT_EQ(query().integer("num_caja"), 7);
     EXPECT_EQ(query().text("LKBancoMN"), "BANCO DE LA BAHIA 7720 INGRESOS COSTA SUR");
     EXPECT_EQ(child<QLineEdit>(screen.get(), "fechapaquete")->text(), "15/03/2024");
