@@ -43,7 +43,7 @@ struct Session {
     // While the program runs.
     FixedText<8> UltimoExpediente;
     FixedText<60> ClasifDescr;  ///< the sales area that FRM104 shows
-    int ImpresoraIndice = -1;  ///< -1 is the default printer
+    int ImpresoraIndice = -1;   ///< -1 is the default printer
 
     bool isFirebird() const { return ClienteSql.text() == QLatin1String("Firebird"); }
 
