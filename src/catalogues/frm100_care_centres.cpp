@@ -1,5 +1,6 @@
 #include "catalogues/frm100_care_centres.h"
 
+#include "app/room.h"
 #include "catalogues/care_centres_report.h"
 #include "catalogues/lookups.h"
 #include "data/catalogue_texts.h"
@@ -173,6 +174,7 @@ bool FRM100::hasCampus() {
 void FRM100::toggleCounters() {
     const bool open = !controlExpedientes_->isVisible();
     controlExpedientes_->setVisible(open);
+    makeRoom(this);
     moveFocus(open ? counters_->grid() : panel_->grid());
 }
 

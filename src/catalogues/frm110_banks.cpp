@@ -1,5 +1,6 @@
 #include "catalogues/frm110_banks.h"
 
+#include "app/room.h"
 #include "catalogues/lookups.h"
 #include "data/catalogue_texts.h"
 #include "toolkit/forms/form.h"
@@ -135,6 +136,7 @@ void FRM110::openProgrammes() {
 void FRM110::toggleProgrammes() {
     const bool open = !bancoProgramas_->isVisible();
     bancoProgramas_->setVisible(open);
+    makeRoom(this);
     moveFocus(open ? programas_->grid() : panel_->grid());
 }
 

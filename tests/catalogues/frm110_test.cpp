@@ -126,6 +126,7 @@ TEST_F(FRM110Test, ABankGetsOneProgramme) {
     open();
     EXPECT_FALSE(child<QWidget>(screen.get(), "BancoProgramas")->isVisible());
     unfold();
+    EXPECT_GT(grid()->viewport()->height(), 4 * grid()->rowHeight(0)) << "the window grew";
     NamedQuery &rows = programmes()->query();
     EXPECT_EQ(rows.integer("programaid"), 12510);
     alt(Qt::Key_I);
