@@ -388,8 +388,9 @@ void CataloguePanel::updateButtons() {
     for (IconButton *button : std::as_const(navigator_)) {
         button->setEnabled(consult && rows);
     }
-    if (consult && !rules_.small) {
-        context_.frame.setEntryEnabled(QStringLiteral("A1"), rows && rules_.reports);
+    if (!rules_.small) {
+        // A row that isn't saved yet has no place on paper.
+        context_.frame.setEntryEnabled(QStringLiteral("A1"), consult && rows && rules_.reports);
     }
 }
 
