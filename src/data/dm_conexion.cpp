@@ -2,8 +2,6 @@
 
 #include <QDir>
 
-#include "data/database_error.h"
-
 namespace kaldo {
 
 namespace {
@@ -59,80 +57,42 @@ DMConexion::~DMConexion() {
     FBLocal.close();
 }
 
-void DMConexion::beginOpen() {
-    if (branch_ != QLatin1String("Firebird")) {
-        return;
-    }
-    try {
-        FBLocal.open();
-        beginRegistered();
-    } catch (const DatabaseError &) {
-    }
-}
-
 void DMConexion::open() {
     FBLocal.open();
     if (branch_ == QLatin1String("Firebird")) {
-        openRegistered();
+        const auto registry = FBLocal.select(
+            {QStringLiteral("Firebird1"), QStringLiteral("Select * from Firebird")}, {});
+        const auto &columns = registry->columns();
+        Row row;
+        while (registry->fetch(row)) {
+            QString base;
+            QString ruta;
+            for (std::size_t at = 0; at < columns.size(); ++at) {
+                if (columns[at].name == QLatin1String("BASE")) {
+                    base = row[at].toString();
+                } else if (columns[at].name == QLatin1String("RUTA")) {
+                    ruta = row[at].toString();
+                }
+            }
+            openRegistered(base, ruta);
+        }
     } else if (branch_ == QLatin1String("Informix")) {
         openInformix();
     }
 }
 
-std::vector<FirebirdConnection *> DMConexion::beginRegistered() {
-    const auto registry =
-        FBLocal.select({QStringLiteral("Firebird1"), QStringLiteral("Select * from Firebird")}, {});
-    const auto &columns = registry->columns();
-    std::vector<FirebirdConnection *> registered;
-    Row row;
-    while (registry->fetch(row)) {
-        QString base;
-        QString ruta;
-        for (std::size_t at = 0; at < columns.size(); ++at) {
-            if (columns[at].name == QLatin1String("BASE")) {
-                base = row[at].toString();
-            } else if (columns[at].name == QLatin1String("RUTA")) {
-                ruta = row[at].toString();
-            }
-        }
-        FirebirdConnection *connection = connectionOf(base);
-        if (connection == nullptr) {
-            continue;
-        }
-        const QString database = installation_.map(ruta);
-        if (connection->isOpen() || connection->database() != database) {
-            connection->close();
-            connection->setDatabase(database);
-        }
-        registered.push_back(connection);
-    }
-    const FirebirdConnection *before = nullptr;
-    for (FirebirdConnection *connection : registered) {
-        connection->beginOpen(before);
-        before = connection;
-    }
-    return registered;
-}
-
-void DMConexion::openRegistered() {
-    const std::vector<FirebirdConnection *> registered = beginRegistered();
-    try {
-        for (FirebirdConnection *connection : registered) {
-            connection->open();
-        }
-    } catch (...) {
-        for (FirebirdConnection *connection : registered) {
-            connection->forgetOpening();
-        }
-        throw;
-    }
-}
-
-FirebirdConnection *DMConexion::connectionOf(const QString &base) {
+void DMConexion::openRegistered(const QString &base, const QString &ruta) {
+    FirebirdConnection *connection = nullptr;
     if (base == QLatin1String("Odontologia")) {
-        return &FBOdonto;
+        connection = &FBOdonto;
+    } else if (base == QLatin1String("Finanzas")) {
+        connection = &FBFinanzas;
+    } else {
+        return;
     }
-    return base == QLatin1String("Finanzas") ? &FBFinanzas : nullptr;
+    connection->close();
+    connection->setDatabase(installation_.map(ruta));
+    connection->open();
 }
 
 void DMConexion::openInformix() {

@@ -20,9 +20,6 @@ public:
     DMConexion(const DMConexion &) = delete;
     DMConexion &operator=(const DMConexion &) = delete;
 
-    /// Looks into the local registry and begins to open what it names in the background, for who
-    /// has something else to do before open(). Tells no failure: open() meets it again.
-    void beginOpen();
     /// Opens the local registry, and what it names, in the order of its rows. The first failure
     /// ends the opening and is thrown; what got connected stays so.
     void open();
@@ -54,11 +51,7 @@ public:
     OdbcConnection InfxCtrClinicas;
 
 private:
-    /// The connections that the registry names, in the order of its rows, each set to its database
-    /// and about to open.
-    std::vector<FirebirdConnection *> beginRegistered();
-    void openRegistered();
-    FirebirdConnection *connectionOf(const QString &base);
+    void openRegistered(const QString &base, const QString &ruta);
     void openInformix();
 };
 

@@ -127,24 +127,6 @@ void chooseLockFolder(const QString &database) {
 #endif
 }
 
-std::shared_ptr<FirebirdAttachment> attached(const QString &connection, const QString &path,
-                                             const FirebirdLogin &login) {
-    auto attachment = std::make_shared<FirebirdAttachment>(connection);
-    attachment->attach(path, login);
-    return attachment;
-}
-
-/// What fails here fails again, and tells it, when it is to run.
-void prepareAhead(FirebirdAttachment &attachment, const std::vector<Statement> &statements) {
-    try {
-        for (const Statement &statement : statements) {
-            attachment.giveBack(std::make_unique<FirebirdStatement>(attachment, statement),
-                                statement.text);
-        }
-    } catch (const DatabaseError &) {
-    }
-}
-
 class FirebirdResultSet final : public ResultSet {
 public:
     FirebirdResultSet(std::shared_ptr<FirebirdAttachment> attachment,
@@ -366,37 +348,17 @@ bool FirebirdConnection::isOpen() const {
     return attachment_ != nullptr;
 }
 
-void FirebirdConnection::beginOpen(const FirebirdConnection *before) {
-    if (isOpen() || opening_.valid()) {
-        return;
-    }
-    chooseLockFolder(database());
-    const auto turn = before != nullptr ? before->opening_ : decltype(opening_)();
-    opening_ = std::async(std::launch::async, [connection = name(), path = database(),
-                                               login = login_, first = first_, turn] {
-        if (turn.valid()) {
-            turn.wait();
-        }
-        auto attachment = attached(connection, path, login);
-        prepareAhead(*attachment, first);
-        return attachment;
-    });
-}
-
 void FirebirdConnection::open() {
     if (isOpen()) {
         return;
     }
-    if (opening_.valid()) {
-        attachment_ = std::exchange(opening_, {}).get();
-        return;
-    }
     chooseLockFolder(database());
-    attachment_ = attached(name(), database(), login_);
+    auto attachment = std::make_shared<FirebirdAttachment>(name());
+    attachment->attach(database(), login_);
+    attachment_ = std::move(attachment);
 }
 
 void FirebirdConnection::close() {
-    forgetOpening();
     if (attachment_) {
         attachment_->detach();
         attachment_.reset();

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <future>
-
 #include "data/connection.h"
 
 namespace kaldo {
@@ -30,14 +28,6 @@ public:
 
     Dialect dialect() const override { return Dialect::Firebird; }
     bool isOpen() const override;
-    /// Begins to open in the background, for who has something else to do meanwhile. The
-    /// connection counts as closed until open(), which waits for it and tells its failure. It takes
-    /// its turn after `before`, so that no more than one processor is kept from the rest.
-    void beginOpen(const FirebirdConnection *before = nullptr);
-    /// What will run first: beginOpen() prepares it, too.
-    void prepareFirst(std::vector<Statement> statements) { first_ = std::move(statements); }
-    /// Waits for what beginOpen() began, and lets go of it.
-    void forgetOpening() { opening_ = {}; }
     void open() override;
     void close() override;
     std::unique_ptr<ResultSet> select(const Statement &statement,
@@ -50,8 +40,6 @@ private:
 
     FirebirdLogin login_;
     std::shared_ptr<FirebirdAttachment> attachment_;
-    std::shared_future<std::shared_ptr<FirebirdAttachment>> opening_;
-    std::vector<Statement> first_;
 };
 
 }  // namespace kaldo

@@ -5,8 +5,6 @@
 #include <QCoreApplication>
 #include <QImageReader>
 #include <QPainter>
-#include <QPointer>
-#include <QThreadPool>
 
 namespace kaldo {
 
@@ -76,7 +74,7 @@ void Backdrop::paintEvent(QPaintEvent *) {
 }
 
 void Backdrop::paintPicture(QPainter &painter, const QRect &area) {
-    if (stretched_.size() != pictureSize() && !reading_) {
+    if (stretched_.size() != pictureSize()) {
         rest_.start();
     }
     if (stretched_.isNull()) {
@@ -91,29 +89,10 @@ QSize Backdrop::pictureSize() const {
 }
 
 void Backdrop::readPicture() {
-    reading_ = true;
-    const QPointer<Backdrop> self(this);
-    QThreadPool::globalInstance()->start([self, file = file_, pixels = pictureSize()] {
-        const QImage image =
-            QImage(file).scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, file, image] {
-                if (self) {
-                    self->takePicture(file, image);
-                }
-            },
-            Qt::QueuedConnection);
-    });
-}
-
-void Backdrop::takePicture(const QString &file, const QImage &image) {
-    reading_ = false;
-    if (file == file_) {  // else another one has been chosen since: the next painting reads it
-        stretched_ = QPixmap::fromImage(image);
-        if (stretched_.isNull()) {
-            setPicture({});
-        }
+    stretched_ = QPixmap::fromImage(
+        QImage(file_).scaled(pictureSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    if (stretched_.isNull()) {
+        setPicture({});
     }
     viewport()->update();
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QImage>
 #include <QMdiArea>
 #include <QPixmap>
 #include <QTimer>
@@ -16,8 +15,7 @@ public:
     explicit Backdrop(QWidget *parent = nullptr);
 
     /// A file that holds no picture gives a plain quiet ground with the system's mark. The picture
-    /// is read and stretched in the background, a moment after the area has got another size: no
-    /// window waits for it.
+    /// is read and stretched a moment after the area has got another size: no window waits for it.
     void setPicture(const QString &file);
     bool hasPicture() const { return !file_.isEmpty(); }
     /// As it is painted; null until the first reading has ended.
@@ -33,7 +31,6 @@ private:
     void paintPicture(QPainter &painter, const QRect &area);
     QSize pictureSize() const;
     void readPicture();
-    void takePicture(const QString &file, const QImage &image);
     void paintGround(QPainter &painter, const QRect &area);
     void paintMark(QPainter &painter, const QRect &area);
     void paintCaption(QPainter &painter, const QRect &area);
@@ -41,7 +38,6 @@ private:
     QString file_;
     QPixmap stretched_;
     QTimer rest_;  ///< from the last change of the size to the reading
-    bool reading_ = false;
     QString caption_;
     QString subtitle_;
     QColor captionColour_;

@@ -43,7 +43,7 @@ HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent) {
     connect(browser_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
     connect(browser_, &QTextBrowser::sourceChanged, this,
             [this] { setWindowTitle(browser_->documentTitle() + u" - Ayuda de KALDO"_s); });
-    resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 36);
+    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 36);
 }
 
 bool HelpWindow::hasPage(const QString &screen) {

@@ -29,7 +29,7 @@ report::PrintingHost printingHost(FRM000 *window) {
 }  // namespace
 
 /// In the order of their lives: what stands below is destroyed first, the connections outlive all
-/// screens. Constructors are light.
+/// screens. Constructors are light and open nothing.
 struct Program::Parts {
     explicit Parts(const ProgramSettings &settings)
         : installation(settings.root),
@@ -44,7 +44,7 @@ struct Program::Parts {
           caja(conexion),
           finanzas(conexion),
           escolares(conexion),
-          window(buildWindow(settings.tick)),
+          window(std::make_unique<FRM000>(context, settings.tick)),
           systemPrinting(installation.map(QStringLiteral("C:\\KALDO\\Recibos")),
                          printingHost(window.get())),
           context{installation, clock,
@@ -57,20 +57,12 @@ struct Program::Parts {
                   escolares},
           update(context, settings.update),
           countDown(settings.countDown) {
-        linkModules(odonto, caja, finanzas);
         conexion.setSeam(settings.seam);
+        linkModules(odonto, caja, finanzas);
     }
     ~Parts() {
         // A screen refers to resident dialogs, which go before the window.
         window->dropChildren();
-    }
-
-    /// The shared databases are attached while fonts and widgets are got ready. The local one
-    /// comes before both: the engine starts up much slower beside another busy thread.
-    std::unique_ptr<FRM000> buildWindow(std::chrono::milliseconds tick) {
-        conexion.FBOdonto.prepareFirst({odonto.ControlExpediente.statement()});
-        conexion.beginOpen();
-        return std::make_unique<FRM000>(context, tick);
     }
 
     Installation installation;
