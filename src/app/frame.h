@@ -10,6 +10,7 @@ public:
     virtual ~Frame() = default;
 
     /// Runs a menu entry ("F1") as if the user had chosen it; does nothing while it is disabled.
+    /// One that opens a screen destroys the open one: a child screen must queue it.
     virtual void openEntry(const QString &entry) = 0;
     virtual void setEntryEnabled(const QString &entry, bool enabled) = 0;
 

@@ -78,6 +78,9 @@ void FRM000::openScreen(const ScreenMaker &maker) {
     if (childScreen() != nullptr) {
         return;  // it refused to close
     }
+    // Now, not when the event loop turns: a screen gives back what it shares as it goes, and would
+    // take it from the next one.
+    delete child_;
     Screen *screen = maker().release();
     QMdiSubWindow *window = backdrop_->addSubWindow(screen);
     window->setAttribute(Qt::WA_DeleteOnClose);
