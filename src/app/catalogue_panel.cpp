@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QLayout>
 
+#include <algorithm>
+
 namespace kaldo {
 
 namespace {
@@ -214,7 +216,7 @@ void CataloguePanel::save() {
         return;
     }
     moveFocus(grid_);
-    if (rules_.accept && !rules_.accept()) {
+    if (!keysFilled() || (rules_.accept && !rules_.accept())) {
         return;
     }
     const Answer answer = context_.messages.confirm(rules_.saveQuestion);
@@ -315,19 +317,41 @@ void CataloguePanel::removeRow() {
 
 EnterResult CataloguePanel::refuse(const QString &field, const QString &text) {
     context_.messages.information(text);
-    rules_.query->set(field, QVariant());
-    return EnterResult::Stay;
+    return cleared(field);
 }
 
 EnterResult CataloguePanel::refuseWarning(const QString &field, const QString &text) {
     context_.messages.warning(text);
+    return cleared(field);
+}
+
+EnterResult CataloguePanel::cleared(const QString &field) {
     rules_.query->set(field, QVariant());
+    if (inserting() && rules_.fixedOnEdit.contains(field, Qt::CaseInsensitive)) {
+        saveAllowed_ = false;
+        updateButtons();
+    }
     return EnterResult::Stay;
 }
 
 EnterResult CataloguePanel::required() {
     context_.messages.warning(QStringLiteral("Campo Obligatorio, vuelva a intentar"));
     return EnterResult::Stay;
+}
+
+bool CataloguePanel::filled(const QString &field, const QString &column) {
+    if (!rules_.query->text(field).trimmed().isEmpty()) {
+        return true;
+    }
+    required();
+    grid_->setCurrentField(column.isEmpty() ? field : column);
+    return false;
+}
+
+bool CataloguePanel::keysFilled() {
+    return std::all_of(rules_.keys.cbegin(), rules_.keys.cend(), [this](const QString &key) {
+        return !rules_.fixedOnEdit.contains(key, Qt::CaseInsensitive) || filled(key);
+    });
 }
 
 void CataloguePanel::enterColumn(const QString &field) {

@@ -121,11 +121,14 @@ public:
     /// Off until the screen has what its rows belong to.
     void setInsertAllowed(bool allowed);
 
-    /// A box, the field is cleared and keeps the cursor.
+    /// A box, the field is cleared and keeps the cursor; a new row without its key can't be saved.
     EnterResult refuse(const QString &field, const QString &text);
     EnterResult refuseWarning(const QString &field, const QString &text);
     /// "Campo Obligatorio, vuelva a intentar": the cursor stays.
     EnterResult required();
+    /// The same for a row that is to be saved: true while the field holds something, else the
+    /// cursor goes to it, or to the column that gives it its value.
+    bool filled(const QString &field, const QString &column = {});
 
     /// A field of a detail page: it follows a column of the row, read-only in consult mode.
     template <typename F>
@@ -160,6 +163,8 @@ private:
     Parameters keyValues() const;
     /// False while a cell or a detail field holds what it can't take; it has told so.
     bool commitInput();
+    bool keysFilled();
+    EnterResult cleared(const QString &field);
     void writeRow();
     void removeRow();
     void go(int row);

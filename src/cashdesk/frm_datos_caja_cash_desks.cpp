@@ -13,11 +13,7 @@ constexpr qint64 kMostInSixteenBits = 32767;
 constexpr qint64 kMostInThirtyTwoBits = 2147483647;
 
 GridColumn numberColumn(const QString &field, const QString &title, int width, int digits) {
-    return GridColumn(field, title, width)
-        .mask(CellMask::Integer)
-        .allowed(u"0123456789"_s)
-        .limit(digits)
-        .editable();
+    return GridColumn(field, title, width).digits(digits).editable();
 }
 
 /// Shows the bank's name; the row keeps its number.
@@ -129,7 +125,12 @@ void FRMDatosCaja::activated() {
 }
 
 EnterResult FRMDatosCaja::enterCaja() {
-    if (context().odonto.existe(cajaText(panel_->query().text(u"num_caja"_s)))) {
+    const QString numCaja = panel_->query().text(u"num_caja"_s);
+    if (numCaja.toInt() > kMostInSixteenBits) {
+        return panel_->refuseWarning(
+            u"num_caja"_s, u"El número de caja debe estar entre 1 y %1."_s.arg(kMostInSixteenBits));
+    }
+    if (context().odonto.existe(cajaText(numCaja))) {
         return panel_->refuse(u"num_caja"_s, u"El número de caja ya existe vuelva a intentar"_s);
     }
     panel_->allowSave();
@@ -152,17 +153,9 @@ EnterResult FRMDatosCaja::enterCampus() {
     return panel_->query().text(u"campus"_s).isEmpty() ? panel_->required() : EnterResult::Next;
 }
 
-/// A desk without a number can't be kept, one without a campus would never be listed again.
+/// A desk without a campus would never be listed again.
 bool FRMDatosCaja::isComplete() {
-    for (const QString &field : {u"NUM_CAJA"_s, u"NOMBRE"_s, u"CAMPUS"_s}) {
-        if (panel_->query().text(field).isEmpty()) {
-            panel_->required();
-            panel_->grid()->setCurrentField(field);
-            moveFocus(panel_->grid());
-            return false;
-        }
-    }
-    return true;
+    return panel_->filled(u"NOMBRE"_s) && panel_->filled(u"CAMPUS"_s);
 }
 
 bool FRMDatosCaja::previewReport() {

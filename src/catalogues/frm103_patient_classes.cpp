@@ -40,6 +40,7 @@ CatalogueRules FRM103::classes() {
         {u"DESCRIPCION"_s, [this] { return enterDescripcion(); }},
         {u"BENEFICIARIO"_s, [] { return EnterResult::Save; }},
     };
+    rules.accept = [this] { return panel_->filled(u"DESCRIPCION"_s); };
     rules.complete = [this] { return completeRow(); };
     return rules;
 }

@@ -49,8 +49,8 @@ CatalogueRules FRM104::services() {
         GridColumn(u"APLICA_ANTICIPO"_s, u"Anticipo"_s, 10).yesNo().editable(),
         GridColumn(u"APLICADESC"_s, u"Aplica Descto."_s, 14).yesNo().editable(),
         GridColumn(u"REQUIERE_EDAD"_s, u"Req. Edad"_s, 10).yesNo().editable(),
-        GridColumn(u"EDADMIN"_s, u"Edad Min."_s, 10).mask(CellMask::Integer).limit(3).editable(),
-        GridColumn(u"EDADMAX"_s, u"Edad Max."_s, 10).mask(CellMask::Integer).limit(3).editable(),
+        GridColumn(u"EDADMIN"_s, u"Edad Min."_s, 10).digits(3).editable(),
+        GridColumn(u"EDADMAX"_s, u"Edad Max."_s, 10).digits(3).editable(),
     };
     rules.editAt = u"APLICADESC"_s;
     rules.saveQuestion = u"¿La información es correcta?"_s;

@@ -7,6 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace kaldo {
 
+namespace {
+
+constexpr int kWhole = 100;
+
+}  // namespace
+
 FRM104a::FRM104a(Context &context) : Dialog(context, u"FRM104a"_s, u"Porcentaje de descuento"_s) {}
 
 void FRM104a::update(const QString &centro, int tipoProd, ScreenBase *opener) {
@@ -49,8 +55,8 @@ CatalogueRules FRM104a::discounts() {
             .strict()
             .editable(),
         GridColumn(u"CLDESCR"_s, u"Descripción"_s, 46),
-        GridColumn(u"EDAD"_s, u"Edad"_s, 8).mask(CellMask::Integer).limit(3).editable(),
-        GridColumn(u"PORCENT"_s, u"% Descuento"_s, 12).mask(CellMask::Integer).limit(3).editable(),
+        GridColumn(u"EDAD"_s, u"Edad"_s, 8).digits(3).editable(),
+        GridColumn(u"PORCENT"_s, u"% Descuento"_s, 12).digits(3).editable(),
     };
     rules.fixedOnEdit = {u"PRESTACION"_s};
     rules.saveQuestion = u"La información es correcta?"_s;
@@ -65,6 +71,7 @@ CatalogueRules FRM104a::discounts() {
         {u"PRESTACION"_s, [this] { return enterPrestacion(); }},
         {u"PORCENT"_s, [] { return EnterResult::Save; }},
     };
+    rules.accept = [this] { return isPercentage(); };
     rules.reports = false;
     return rules;
 }
@@ -86,6 +93,15 @@ EnterResult FRM104a::enterPrestacion() {
     panel_->allowSave();
     panel_->grid()->setCurrentField(u"EDAD"_s);
     return EnterResult::Stay;
+}
+
+bool FRM104a::isPercentage() {
+    if (panel_->query().integer(u"porcent"_s) <= kWhole) {
+        return true;
+    }
+    messages().warning(u"El descuento no puede pasar de 100 %."_s);
+    panel_->grid()->setCurrentField(u"PORCENT"_s);
+    return false;
 }
 
 void FRM104a::reject() {

@@ -25,6 +25,7 @@ protected:
 private:
     CatalogueRules discounts();
     EnterResult enterPrestacion();
+    bool isPercentage();
     void writeAplicaDescuento();
 
     QString centro_;

@@ -152,13 +152,7 @@ EnterResult FRM106::enterDomicilio() {
 }
 
 bool FRM106::hasAccount() {
-    if (panel_->query().isNull(u"subsubcta"_s)) {
-        panel_->required();
-        panel_->grid()->setCurrentField(u"DESCR"_s);
-        moveFocus(panel_->grid());
-        return false;
-    }
-    return true;
+    return panel_->filled(u"subsubcta"_s, u"DESCR"_s);
 }
 
 bool FRM106::completeRow() {

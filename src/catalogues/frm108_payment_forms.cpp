@@ -22,7 +22,7 @@ CatalogueRules FRM108::paymentForms() {
     rules.query = &context().odonto.TipoForma;
     rules.keys = {u"idtipo"_s};
     rules.columns = {
-        GridColumn(u"IDTIPO"_s, u"Tipo"_s, 7).mask(CellMask::Integer).editable(),
+        GridColumn(u"IDTIPO"_s, u"Tipo"_s, 7).digits(10).editable(),
         GridColumn(u"TIPOPAGO"_s, u"Descripción"_s, 36).limit(80).upper().stretch().editable()};
     rules.columns += levels_.columns(accounts);
     rules.columns += accounts ? path : GridColumn(path).hidden();

@@ -31,6 +31,7 @@ CatalogueRules FRM109::methods() {
         {u"CLAVE"_s, [this] { return enterClave(); }},
         {u"DESCRIPCION"_s, [this] { return enterDescripcion(); }},
     };
+    rules.accept = [this] { return panel_->filled(u"DESCRIPCION"_s); };
     return rules;
 }
 

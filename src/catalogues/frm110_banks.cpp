@@ -47,7 +47,7 @@ CatalogueRules FRM110::banks() {
                       {u"DESCRIPCION"_s, u"Descripción"_s, 44}}})
             .strict(),
         GridColumn(u"NOMENCLATURA"_s, u"Nomenclatura"_s, 16),
-        GridColumn(u"DESCRIPCION"_s, u"Dedscripción"_s, 26).limit(250).upper().stretch().editable(),
+        GridColumn(u"DESCRIPCION"_s, u"Dedscripción"_s, 23).limit(250).upper().stretch().editable(),
         GridColumn(u"TIPOMONEDA"_s, u"Tipo Moneda"_s, 22)
             .mask(CellMask::Integer)
             .align(Qt::AlignLeft)
@@ -92,8 +92,11 @@ CatalogueRules FRM110::programmesOfBank() {
                          .lookup(programmes(finanzas.Programas))
                          .strict()
                          .editable()};
-    // A bank that has a programme gets no second one here.
-    rules.prepareInsert = [&finanzas] { return finanzas.BancoPrograma.isEmpty(); };
+    // A bank that has a programme gets no second one here, one that isn't written yet none.
+    rules.prepareInsert = [this, &finanzas] {
+        return finanzas.BancoPrograma.isEmpty() && !finanzas.Bancos.isEmpty() &&
+               !panel_->inserting();
+    };
     rules.defaults = [&finanzas](NamedQuery &row) {
         row.set(u"bancoid"_s, finanzas.Bancos.value(u"bancoid"_s));
     };
@@ -190,23 +193,25 @@ void FRM110::removeBank() {
 }
 
 void FRM110::writeProgramme() {
+    // The list of banks may have moved on since the row was opened.
+    const QVariant bancoid = programas_->query().value(u"bancoid"_s);
     programas_->query().apply();
-    copyProgrammes();
+    copyProgrammes(bancoid);
 }
 
 void FRM110::removeProgramme() {
+    const QVariant bancoid = programas_->query().value(u"bancoid"_s);
     programas_->query().remove();
     programas_->query().apply();
-    copyProgrammes();
+    copyProgrammes(bancoid);
 }
 
-void FRM110::copyProgrammes() {
+void FRM110::copyProgrammes(const QVariant &bancoid) {
     if (!session().isFirebird()) {
         return;
     }
     DMIngresosCaja &caja = context().caja;
     NamedQuery &rows = programas_->query();
-    const QVariant bancoid = context().finanzas.Bancos.value(u"bancoid"_s);
     caja.BorraBancoProgramas.execute({{u"bancoid"_s, bancoid}});
     for (int row = 0; row < rows.count(); ++row) {
         caja.CopiaBancoPrograma.execute(
@@ -218,7 +223,6 @@ bool FRM110::hasDescription() {
     if (panel_->query().text(u"descripcion"_s).isEmpty()) {
         messages().warning(u"El Campo Descripción se encuentra vacío, favor de llenarlo"_s);
         panel_->grid()->setCurrentField(u"DESCRIPCION"_s);
-        moveFocus(panel_->grid());
         return false;
     }
     return true;

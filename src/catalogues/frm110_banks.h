@@ -33,7 +33,8 @@ private:
     void removeBank();
     void writeProgramme();
     void removeProgramme();
-    void copyProgrammes();
+    /// Brings the clinic's copy of the open list of programmes, which is this bank's, up to date.
+    void copyProgrammes(const QVariant &bancoid);
 
     AccountLevels levels_;
     CataloguePanel *panel_ = nullptr;

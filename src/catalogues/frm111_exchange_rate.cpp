@@ -7,6 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace kaldo {
 
+namespace {
+
+constexpr double kHighestRate = 999999.9999;
+
+}  // namespace
+
 FRM111::FRM111(Context &context) : Screen(context, u"FRM111"_s, u"Tipo de Cambio"_s) {
     using namespace form;
     form::build(this, column({catalogue(&panel_, context, u"TiposCambio"_s, rates())}));
@@ -32,6 +38,7 @@ CatalogueRules FRM111::rates() {
     rules.defaults = [this](NamedQuery &row) { row.set(u"fecha"_s, context().clock.today()); };
     rules.openRow = [this] { openRow(); };
     rules.enter = {{u"TIPO_CAM"_s, [this] { return enterTipoCambio(); }}};
+    rules.accept = [this] { return isRate(); };
     rules.write = [this] { write(); };
     rules.reports = false;
     return rules;
@@ -66,6 +73,21 @@ EnterResult FRM111::enterTipoCambio() {
             u"tipo_cam"_s, u"Este Tipo de cambio ya existe para esta fecha, vuelva a intentar"_s);
     }
     return EnterResult::Save;
+}
+
+/// "&Grabar" can be pressed from the cell, past its Enter; a rate of zero would be in force at
+/// once.
+bool FRM111::isRate() {
+    const double tipoCam = panel_->query().number(u"tipo_cam"_s);
+    if (tipoCam == 0) {
+        panel_->required();
+    } else if (tipoCam > kHighestRate) {
+        messages().warning(u"El tipo de cambio no puede pasar de 999,999.9999."_s);
+    } else {
+        return true;
+    }
+    panel_->grid()->setCurrentField(u"TIPO_CAM"_s);
+    return false;
 }
 
 void FRM111::write() {

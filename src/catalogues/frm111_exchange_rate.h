@@ -21,6 +21,7 @@ private:
     CatalogueRules rates();
     void openRow();
     EnterResult enterTipoCambio();
+    bool isRate();
     void write();
 
     CataloguePanel *panel_ = nullptr;

@@ -60,7 +60,7 @@ DatabaseFailure failureOf(const QList<int> &codes, const QString &engineMessage)
         return DatabaseFailure::CannotAttach;
     }
     if (has({isc_arith_except, isc_string_truncation, isc_convert_error, isc_numeric_out_of_range,
-             isc_dsql_sqlda_value_err})) {
+             isc_dsql_sqlda_value_err, isc_not_valid})) {
         return DatabaseFailure::BadValue;
     }
     return DatabaseFailure::Other;

@@ -536,6 +536,9 @@ Statement NamedQuery::insertStatement(Parameters *values) {
             QStringLiteral("insert into %1 (%2) values (:%3)")
                 .arg(table_, names.join(QLatin1String(", ")), assigned.join(QLatin1String(", :")));
     }
+    if (assigned.isEmpty()) {
+        insertText_ = QStringLiteral("insert into %1 default values").arg(table_);
+    }
     return {name() + QLatin1String(" (insert)"), insertText_};
 }
 

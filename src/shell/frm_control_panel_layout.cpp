@@ -24,8 +24,6 @@ constexpr int kCharactersWide = 165;
 constexpr int kLinesHigh = 48;
 constexpr qreal kMostOfTheDesktop = 0.94;
 
-const QString kDigits = QStringLiteral("0123456789");
-
 /// A page that scrolls where the desktop is too small for it.
 form::Item scrolled(const QString &name, const form::Item &content) {
     return form::custom<QScrollArea>(nullptr, name)
@@ -60,11 +58,7 @@ form::WidgetItem<CheckField> tick(const char *name, const QString &caption,
 }
 
 GridColumn numberColumn(const QString &field, const QString &title) {
-    return GridColumn(field, title, 8)
-        .mask(CellMask::Integer)
-        .allowed(kDigits)
-        .limit(kNumberDigits)
-        .editable();
+    return GridColumn(field, title, 8).digits(kNumberDigits).editable();
 }
 
 GridColumn textColumn(const QString &field, const QString &title, int width, int limit) {

@@ -9,14 +9,12 @@ namespace kaldo {
 
 namespace {
 
-const QString kDigits = u"0123456789"_s;
-
 GridColumn textColumn(const QString &field, const QString &title, int width, int limit) {
     return GridColumn(field, title, width).limit(limit).editable();
 }
 
 GridColumn numberColumn(const QString &field, const QString &title, int width, int digits) {
-    return textColumn(field, title, width, digits).mask(CellMask::Integer).allowed(kDigits);
+    return GridColumn(field, title, width).digits(digits).editable();
 }
 
 }  // namespace
@@ -158,7 +156,6 @@ bool FRMControlUsuarios::completeRights() {
     if (options().ContabilidadGubernamental && user.text(u"campus"_s).isEmpty()) {
         messages().warning(u"El Campo Campus se encuentra vacío, favor de llenarlo"_s);
         panel_->grid()->setCurrentField(u"CAMPUS"_s);
-        moveFocus(panel_->grid());
         return false;
     }
     for (const QString &field : {u"usuario"_s, u"origen"_s, u"centro"_s, u"acceso"_s}) {

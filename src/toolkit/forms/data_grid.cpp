@@ -57,6 +57,10 @@ GridColumn &GridColumn::allowed(const QString &characters) {
     return *this;
 }
 
+GridColumn &GridColumn::digits(int most) {
+    return mask(CellMask::Integer).allowed(QStringLiteral("0123456789")).limit(most);
+}
+
 GridColumn &GridColumn::lookup(LookupSource source) {
     settings_.lookup = std::move(source);
     return *this;
@@ -230,7 +234,7 @@ void DataGrid::setShownRows(int rows) {
 
 int DataGrid::columnPixels(const GridColumn::Settings &column) const {
     const int title = fontMetrics().horizontalAdvance(column.title);
-    return std::max(fontMetrics().averageCharWidth() * column.width, title) + 18;
+    return std::max(fontMetrics().averageCharWidth() * column.width, title) + 22;
 }
 
 void DataGrid::setColumnEnterHandler(std::function<void(const QString &)> handler) {

@@ -27,6 +27,8 @@ public:
     GridColumn &limit(int characters);
     /// Only these characters can be typed.
     GridColumn &allowed(const QString &characters);
+    /// A whole number without a sign, of at most so many digits.
+    GridColumn &digits(int most);
     /// Cells are chosen from another model by a drop-down; a typed text is sought in the value
     /// field, then by prefix in the display field. The cell stores and shows the value field.
     GridColumn &lookup(LookupSource source);
