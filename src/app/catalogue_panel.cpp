@@ -1,5 +1,6 @@
 #include "app/catalogue_panel.h"
 
+#include "data/database_error.h"
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/form.h"
@@ -304,15 +305,22 @@ void CataloguePanel::removeRow() {
             rules_.query->remove();
             rules_.query->apply();
         }
-    } catch (...) {
+    } catch (const DatabaseError &error) {
         rules_.query->cancelUpdates();
+        if (error.failure() == DatabaseFailure::RowGone) {
+            reloadAt(row);
+        }
         throw;
     }
+    reloadAt(row);
+    moveFocus(grid_);
+}
+
+void CataloguePanel::reloadAt(int row) {
     reload();
     if (!rules_.query->moveTo(row)) {
         rules_.query->moveTo(row - 1);
     }
-    moveFocus(grid_);
 }
 
 EnterResult CataloguePanel::refuse(const QString &field, const QString &text) {
@@ -359,8 +367,10 @@ void CataloguePanel::enterColumn(const QString &field) {
         return;
     }
     const auto handler = rules_.enter.constFind(field);
+    // The key of a row that exists has nothing to be tested; a refusal would empty it.
+    const bool fixed = !inserting_ && rules_.fixedOnEdit.contains(field);
     const EnterResult result =
-        handler == rules_.enter.constEnd() ? EnterResult::Next : (*handler)();
+        fixed || handler == rules_.enter.constEnd() ? EnterResult::Next : (*handler)();
     if (!editing()) {
         return;
     }

@@ -55,7 +55,7 @@ struct CatalogueRules {
     std::function<void(NamedQuery &row)> defaults;
     /// Opens the current row; else query->edit().
     std::function<void()> openRow;
-    /// By field.
+    /// By field. Those of fixedOnEdit run for a new row only.
     QHash<QString, std::function<EnterResult()>> enter;
     /// Before the question of "&Grabar"; false keeps the row open.
     std::function<bool()> accept;
@@ -167,6 +167,8 @@ private:
     EnterResult cleared(const QString &field);
     void writeRow();
     void removeRow();
+    /// On this row, or on the last one where there are fewer.
+    void reloadAt(int row);
     void go(int row);
     void shareLetters();
     void setLetters(bool on);

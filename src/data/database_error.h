@@ -16,6 +16,7 @@ enum class DatabaseFailure {
     DuplicateKey,
     LockTimeout,  ///< another station held the row for longer than the lock time-out
     BadValue,     ///< a value that doesn't fit its parameter (SQL code -303)
+    RowGone,      ///< another station deleted the row to write
     Raised,       ///< a stored routine refused, with a text for the user
 };
 

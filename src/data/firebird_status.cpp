@@ -83,6 +83,7 @@ QString leadOf(DatabaseFailure failure, const QString &connection) {
                 "nuevo.");
         case DatabaseFailure::BadValue:
             return QStringLiteral("Un valor no corresponde a su campo.");
+        case DatabaseFailure::RowGone:
         case DatabaseFailure::Raised:
         case DatabaseFailure::Other:
             break;

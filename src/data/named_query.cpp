@@ -493,7 +493,7 @@ void NamedQuery::apply() {
     if (!statement.text.isEmpty() && connection_->execute(statement, values) == 0) {
         throw DatabaseError(
             QStringLiteral("Otra estación borró el registro, la información no se guardó."),
-            {DatabaseFailure::Other, {}, 0, {}, connection_->name(), statement.name});
+            {DatabaseFailure::RowGone, {}, 0, {}, connection_->name(), statement.name});
     }
     pending_.reset();
 }
