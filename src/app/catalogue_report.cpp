@@ -143,8 +143,8 @@ Band groupBand(const QString &caption, const QString &text, double indentMm) {
     const double captionWidth = report::textWidth(caption, style) + 2.5;
     Band band(kLine + 2.4);
     band.text({indentMm, 1.4, captionWidth, kLine}, caption, style);
-    band.text({indentMm + captionWidth, 1.4, catalogueWidth() - indentMm - captionWidth, kLine},
-              text, style.bold().wrap(Wrap::Elide));
+    band.memo({indentMm + captionWidth, 1.4, catalogueWidth() - indentMm - captionWidth, kLine},
+              text, style.bold());
     return band;
 }
 

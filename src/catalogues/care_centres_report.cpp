@@ -11,6 +11,7 @@ using report::Style;
 
 constexpr double kLine = 4.8;
 constexpr double kCaption = 40;
+constexpr double kCode = 14;
 
 }  // namespace
 
@@ -27,19 +28,20 @@ report::Document layoutCareCentres(const CatalogueHeading &heading, const QList<
         if (accounts) {
             lines += {u"Programa"_s, centre.prog};
         }
-        Band band(kLine * static_cast<double>(lines.size() + 1) + 3);
+        Band band(kLine + 1);
         band.text({0, 1, kCaption, kLine}, u"Centro"_s, Style().size(9));
-        band.text({kCaption, 1, 14, kLine}, centre.centro, Style().size(10).bold());
-        band.text({kCaption + 14, 1, width - kCaption - 14, kLine}, centre.descr,
-                  Style().size(10).bold().wrap(report::Wrap::Elide));
-        double top = 1 + kLine;
+        band.text({kCaption, 1, kCode, kLine}, centre.centro, Style().size(10).bold());
+        band.memo({kCaption + kCode, 1, width - kCaption - kCode, kLine}, centre.descr,
+                  Style().size(10).bold());
         for (const auto &[caption, text] : lines) {
-            band.text({6, top, kCaption - 6, kLine}, caption, Style().size(9));
-            band.text({kCaption, top, width - kCaption, kLine}, text,
-                      Style().size(9).wrap(report::Wrap::Elide));
-            top += kLine;
+            Band line(kLine);
+            line.text({6, 0, kCaption - 6, kLine}, caption, Style().size(9));
+            line.memo({kCaption, 0, width - kCaption, kLine}, text, Style().size(9));
+            band.append(line);
         }
-        band.line(0, top + 1, width, top + 1, 0.1);
+        const double bottom = band.height() + 1;
+        band.line(0, bottom, width, bottom, 0.1);
+        band.growTo(bottom + 1);
         layout.place(band);
     }
     return layout.finish();

@@ -79,11 +79,6 @@ void FRM100::buildForm() {
                                 .upper()
                                 .width(80)
                                 .shown(50),
-                            strip(&programa_, u"PanelPrograma"_s,
-                                  {lookup(&prog_, u"prog"_s, u"Programa"_s)
-                                       .source(programmes(context().finanzas.Programas))
-                                       .shown(10),
-                                   stretch()}),
                             text(&correoto_, u"correoto"_s, u"Correo Electrónico"_s)
                                 .lower()
                                 .width(100)
@@ -93,6 +88,11 @@ void FRM100::buildForm() {
                                         panel_->save();
                                     }
                                 }),
+                            strip(&programa_, u"PanelPrograma"_s,
+                                  {lookup(&prog_, u"prog"_s, u"Programa"_s)
+                                       .source(programmes(context().finanzas.Programas))
+                                       .shown(10),
+                                   stretch()}),
                         })),
                   row({button(&consecutivo_, u"Consecutivo"_s, u"..."_s)
                            .hint(u"Consecutivo Expediente"_s)

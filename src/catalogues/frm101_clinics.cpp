@@ -15,10 +15,12 @@ FRM101::FRM101(Context &context) : Screen(context, u"FRM101"_s, u"Clinicas por A
                           row({lookup(&centro_, u"CentroAtencion"_s, u"Centro de Atención"_s)
                                    .source(centres(context.odonto.CtroAtencion1))
                                    .shown(36)
+                                   .edited([this] { forgetCentre(); })
                                    .closedUp([this] { chooseCentre(); }),
                                lookup(&servicio_, u"TipoServicio"_s, u"Tipo Servicio"_s)
                                    .source(salesAreas(context.odonto.ServxCtro))
                                    .shown(28)
+                                   .edited([this] { forgetService(); })
                                    .closedUp([this] { chooseService(); }),
                                stretch()}),
                           catalogue(&panel_, context, u"Clinicas"_s, clinics()),
@@ -84,10 +86,24 @@ void FRM101::activated() {
     panel_->refresh();
 }
 
+void FRM101::forgetCentre() {
+    if (centro_->text().isEmpty()) {
+        context().odonto.ServxCtro.close();
+        servicio_->clearField();
+        forgetService();
+    }
+}
+
+void FRM101::forgetService() {
+    if (servicio_->text().isEmpty()) {
+        panel_->query().close();
+        panel_->setInsertAllowed(false);
+    }
+}
+
 void FRM101::chooseCentre() {
     servicio_->clearField();
-    panel_->query().close();
-    panel_->setInsertAllowed(false);
+    forgetService();
     context().odonto.ServxCtro.open({{u"cent"_s, centro_->value()}});
     moveFocus(servicio_);
 }

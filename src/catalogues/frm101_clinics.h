@@ -22,6 +22,9 @@ private:
     CatalogueRules clinics();
     void chooseCentre();
     void chooseService();
+    /// An emptied choice takes along what hangs on it.
+    void forgetCentre();
+    void forgetService();
     EnterResult enterArea();
     EnterResult enterResponsable();
     EnterResult enterRequired(const QString &field);

@@ -17,6 +17,7 @@ FRM102::FRM102(Context &context)
                           lookup(&centro_, u"Centro"_s, u"Centro de Atención"_s)
                               .source(centres(context.odonto.CtroAtencion1))
                               .shown(50)
+                              .edited([this] { forgetCentre(); })
                               .closedUp([this] { chooseCentre(); }),
                           twoLists(&areas_, context, u"Areas"_s),
                       }));
@@ -35,6 +36,12 @@ void FRM102::activated() {
     if (chosen.isValid() && centro_->setValue(chosen)) {
         areas_->reload();
     } else {
+        areas_->setCentre(QString());
+    }
+}
+
+void FRM102::forgetCentre() {
+    if (centro_->text().isEmpty()) {
         areas_->setCentre(QString());
     }
 }

@@ -22,6 +22,7 @@ protected:
 
 private:
     void chooseCentre();
+    void forgetCentre();
 
     LookupField *centro_ = nullptr;
     TwoLists *areas_ = nullptr;

@@ -1,5 +1,6 @@
 #include "catalogues/frm105_sales_areas.h"
 
+#include "catalogues/bulk_work.h"
 #include "catalogues/lookups.h"
 #include "catalogues/sales_areas_report.h"
 #include "catalogues/sales_families.h"
@@ -12,8 +13,6 @@ namespace kaldo {
 
 namespace {
 
-/// A business installation works with its first areas only.
-constexpr int kBusinessAreas = 10;
 constexpr int kHighestFirstId = 100;
 
 }  // namespace
@@ -86,7 +85,7 @@ CatalogueRules FRM105::areas() {
     rules.insertAt = u"DESCR"_s;
     rules.prepareInsert = [this] { return prepareInsert(); };
     rules.defaults = [this](NamedQuery &row) {
-        row.set(u"tipo_prod"_s, context().odonto.AreaVentaT.integer(u"max"_s) + 1);
+        row.set(u"tipo_prod"_s, context().odonto.AreaVentaT.value(u"max"_s).toLongLong() + 1);
         row.set(u"ciudad"_s, session().Origen.text());
         row.set(u"vigente"_s, u"S"_s);
     };
@@ -124,20 +123,10 @@ QList<GridColumn> FRM105::areaColumns() {
 }
 
 void FRM105::formCreate() {
-    applyFilter();
+    context().odonto.AreaVenta.setFilter(areasOfSector(options().sector));
     context().odonto.CtroAtencion3.open();
     panel_->reload();
     levels_.reopen();
-}
-
-void FRM105::applyFilter() {
-    NamedQuery::RowFilter filter;
-    if (options().sector == Sector::Empresarial) {
-        filter = [](const NamedQuery::RowReader &row) {
-            return row(u"tipo_prod"_s).toInt() <= kBusinessAreas;
-        };
-    }
-    context().odonto.AreaVenta.setFilter(filter);
 }
 
 void FRM105::activated() {
@@ -184,9 +173,7 @@ void FRM105::borrarTodas() {
     }
     context().odonto.ejecutar("AreaVenta", borrarAreasText(session().Origen.text()));
     panel_->reload();
-    messages().information(
-        u"La información ha sido eliminado correctamente, presione cualquier tecla para continuar."_s,
-        u"Información"_s);
+    tellDeleted(messages());
 }
 
 void FRM105::toggleDuplicates() {
@@ -211,48 +198,30 @@ void FRM105::chooseCampus() {
 bool FRM105::copyIsTold() const {
     const QString campus = ciudad_->text();
     return !campus.isEmpty() && campus != session().Origen.text() && idInicial_->value() > 0 &&
-           !origen_->text().isEmpty();
+           idInicial_->value() <= kHighestFirstId && !origen_->text().isEmpty();
 }
 
 void FRM105::generarAreas() {
-    const QString question =
-        u"¿Los datos proporcionados son correctos para generar este proceso? "_s;
-    if (!copyIsTold() || messages().confirm(question) != Answer::Yes) {
+    if (!copyIsTold() || !confirmGeneration(messages())) {
         return;
     }
     copyAreas(ciudad_->text(), static_cast<int>(idInicial_->value()), origen_->text());
     generar_->setEnabled(false);
-    messages().information(
-        u"La información ha sido registrada correctamente, presione cualquier tecla para continuar."_s,
-        u"Información"_s);
+    tellGenerated(messages());
 }
 
 void FRM105::copyAreas(const QString &campus, int firstId, const QString &origen) {
-    static const QStringList copied = {u"descr"_s,    u"dirigidoa"_s,   u"generoid"_s,
-                                       u"grupoid"_s,  u"cgrubroid"_s,   u"cuentaid"_s,
-                                       u"subctaid"_s, u"nomenclatura"_s};
-    NamedQuery &source = context().odonto.AreaVenta;
     NamedQuery &target = context().odonto.AreaVenta3;
-    const int areas = source.count();
     target.openToAppend({{u"cd"_s, campus}});
-    Progress progress(context().frame, areas);
-    try {
-        for (int area = 0; area < areas; ++area) {
-            target.append();
-            target.set(u"tipo_prod"_s, firstId + area);
-            target.set(u"ciudad"_s, campus);
-            target.set(u"origen"_s, origen);
-            target.set(u"vigente"_s, u"S"_s);
-            for (const QString &field : copied) {
-                target.set(field, source.valueAt(area, field));
-            }
-            target.apply();
-            progress.advance();
-        }
-    } catch (...) {
-        target.cancelUpdates();
-        throw;
-    }
+    copyRows(context().frame, context().odonto.AreaVenta, target,
+             {u"descr"_s, u"dirigidoa"_s, u"generoid"_s, u"grupoid"_s, u"cgrubroid"_s,
+              u"cuentaid"_s, u"subctaid"_s, u"nomenclatura"_s},
+             [&](int area) {
+                 target.set(u"tipo_prod"_s, firstId + area);
+                 target.set(u"ciudad"_s, campus);
+                 target.set(u"origen"_s, origen);
+                 target.set(u"vigente"_s, u"S"_s);
+             });
 }
 
 bool FRM105::previewReport() {

@@ -25,7 +25,6 @@ private:
     QList<GridColumn> areaColumns();
     form::Item duplicates();
 
-    void applyFilter();
     bool prepareInsert();
     EnterResult enterArea();
     EnterResult enterSubcta();

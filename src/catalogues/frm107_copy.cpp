@@ -1,6 +1,6 @@
+#include "catalogues/bulk_work.h"
 #include "catalogues/frm107_price_list.h"
 #include "catalogues/item_code.h"
-#include "data/catalogue_texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -50,50 +50,39 @@ void FRM107::enableGenerate() {
 }
 
 void FRM107::generarLista() {
-    const QString question =
-        u"¿Los datos proporcionados son correctos para generar este proceso? "_s;
     // The programme enables the button before the areas are there.
-    if (!areaDestino_->value().isValid() || !areaChosen() ||
-        messages().confirm(question) != Answer::Yes) {
+    for (LookupField *area : {area_, areaDestino_}) {
+        if (!area->value().isValid()) {
+            panel_->required();
+            moveFocus(area);
+            return;
+        }
+    }
+    if (!confirmGeneration(messages())) {
         return;
     }
     copyItems(areaDestino_->value().toInt(), programa_->text());
     context().odonto.Listaprecios1.first();
     generar_->setEnabled(false);
-    messages().information(
-        u"La información ha sido registrada correctamente, presione cualquier tecla para continuar."_s,
-        u"Información"_s);
+    tellGenerated(messages());
     areaDestino_->clearField();
     programa_->clearField();
 }
 
 void FRM107::copyItems(int target, const QString &programa) {
-    static const QStringList copied = {
-        u"cve_prod"_s,         u"descr"_s,         u"unimed"_s,
-        u"menudeo"_s,          u"fecha_mov"_s,     u"subsubcta"_s,
-        u"nomenclatura"_s,     u"porcentajeiva"_s, u"tipodeiva"_s,
-        u"clasificacioniva"_s, u"vigente"_s,       u"claveprodserv"_s};
-    const NamedQuery &source = context().odonto.Listaprecios1;
+    NamedQuery &source = context().odonto.Listaprecios1;
     NamedQuery &list = context().odonto.Listaprecios3;
-    const int items = context().odonto.Listaprecios1.count();
     list.openToAppend({{u"tipoprod"_s, target}});
-    Progress progress(context().frame, items);
-    try {
-        for (int item = 0; item < items; ++item) {
-            list.append();
-            list.set(u"codigo"_s, itemCode(target, source.valueAt(item, u"cve_prod"_s).toInt()));
-            list.set(u"tipo_prod"_s, target);
-            list.set(u"prog"_s, programa);
-            for (const QString &field : copied) {
-                list.set(field, source.valueAt(item, field));
-            }
-            list.apply();
-            progress.advance();
-        }
-    } catch (...) {
-        list.cancelUpdates();
-        throw;
-    }
+    copyRows(context().frame, source, list,
+             {u"cve_prod"_s, u"descr"_s, u"unimed"_s, u"menudeo"_s, u"fecha_mov"_s, u"subsubcta"_s,
+              u"nomenclatura"_s, u"porcentajeiva"_s, u"tipodeiva"_s, u"clasificacioniva"_s,
+              u"vigente"_s, u"claveprodserv"_s},
+             [&](int item) {
+                 const int cveProd = source.valueAt(item, u"cve_prod"_s).toInt();
+                 list.set(u"codigo"_s, itemCode(target, cveProd));
+                 list.set(u"tipo_prod"_s, target);
+                 list.set(u"prog"_s, programa);
+             });
 }
 
 }  // namespace kaldo

@@ -1,13 +1,22 @@
 #include "catalogues/frm107_price_list.h"
 
+#include "catalogues/bulk_work.h"
 #include "catalogues/item_code.h"
 #include "catalogues/lookups.h"
 #include "catalogues/price_list_report.h"
 #include "data/catalogue_texts.h"
+#include "toolkit/core/money.h"
 
 using namespace Qt::StringLiterals;
 
 namespace kaldo {
+
+namespace {
+
+constexpr int kClaveDigits = 9;
+constexpr double kHighestPrice = 999999999.99;
+
+}  // namespace
 
 FRM107::FRM107(Context &context) : Screen(context, u"FRM107"_s, u"Lista de Precios"_s) {
     using namespace form;
@@ -19,6 +28,7 @@ FRM107::FRM107(Context &context) : Screen(context, u"FRM107"_s, u"Lista de Preci
                              .with([this](LookupField *field) {
                                  bindLookup(field, &this->context().odonto.AreaVenta);
                              })
+                             .edited([this] { forgetArea(); })
                              .closedUp([this] { chooseArea(); }),
                          stretch(),
                          button(&borrarLista_, u"BorrarLista"_s, u"&Borrar Lista de Precios"_s)
@@ -96,6 +106,7 @@ CatalogueRules FRM107::prices() {
         {u"TIPODEIVA"_s, reopening(context().finanzas.clasificacioniva)},
         {u"CLAVEPRODSERV"_s, [] { return EnterResult::Save; }},
     };
+    rules.accept = [this] { return acceptRow(); };
     rules.complete = [this] { return completeRow(); };
     rules.modeChanged = [this, accounts](CatalogueMode mode) {
         const bool consult = mode == CatalogueMode::Consult;
@@ -117,7 +128,11 @@ QList<GridColumn> FRM107::priceColumns() {
         return accounts ? column : column.hidden();
     };
     return {
-        GridColumn(u"CVE_PROD"_s, u"Clave"_s, 7).mask(CellMask::Integer).editable(),
+        GridColumn(u"CVE_PROD"_s, u"Clave"_s, 7)
+            .mask(CellMask::Integer)
+            .allowed(u"0123456789"_s)
+            .limit(kClaveDigits)
+            .editable(),
         GridColumn(u"DESCR"_s, u"Descripción"_s, 38).limit(150).upper().stretch().editable(),
         GridColumn(u"VIGENTE"_s, u"Vigente"_s, 7).yesNo().editable(),
         GridColumn(u"LKUMEDIDA"_s, u"Unidad Medida"_s, 14)
@@ -179,16 +194,20 @@ void FRM107::activated() {
     panel_->refresh();
 }
 
-bool FRM107::areaChosen() const {
-    return context().odonto.Listaprecios1.isOpen();
-}
-
 void FRM107::chooseArea() {
     openSubsubcta();
     context().finanzas.clasificacioniva.open();
     panel_->reload();
     panel_->setInsertAllowed(true);
     moveFocus(panel_->grid());
+}
+
+void FRM107::forgetArea() {
+    if (area_->text().isEmpty()) {
+        panel_->query().close();
+        panel_->setInsertAllowed(false);
+        borrarLista_->setEnabled(false);
+    }
 }
 
 void FRM107::openSubsubcta() {
@@ -215,6 +234,20 @@ EnterResult FRM107::enterClave() {
     return EnterResult::Next;
 }
 
+bool FRM107::acceptRow() {
+    if (!panel_->filled(u"cve_prod"_s)) {
+        return false;
+    }
+    const double price = panel_->query().number(u"menudeo"_s);
+    if (price < 0 || price > kHighestPrice) {
+        messages().warning(u"El precio debe estar entre %1 y %2, vuelva a intentar."_s.arg(
+            formatMoney(0.0), formatMoney(kHighestPrice)));
+        panel_->grid()->setCurrentField(u"MENUDEO"_s);
+        return false;
+    }
+    return true;
+}
+
 bool FRM107::completeRow() {
     NamedQuery &row = panel_->query();
     const NamedQuery &area = context().odonto.AreaVenta;
@@ -238,9 +271,7 @@ void FRM107::borrarLista() {
     DMOdonto &odonto = context().odonto;
     odonto.ejecutar("Listaprecios", borrarPreciosText(odonto.AreaVenta.integer(u"tipo_prod"_s)));
     panel_->reload();
-    messages().information(
-        u"La información ha sido eliminado correctamente, presione cualquier tecla para continuar."_s,
-        u"Información"_s);
+    tellDeleted(messages());
 }
 
 bool FRM107::previewReport() {

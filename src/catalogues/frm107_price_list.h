@@ -24,10 +24,11 @@ private:
     QList<GridColumn> priceColumns();
     form::Item duplicates();
 
-    bool areaChosen() const;
     void chooseArea();
+    void forgetArea();
     void openSubsubcta();
     EnterResult enterClave();
+    bool acceptRow();
     bool completeRow();
     void borrarLista();
 

@@ -3,6 +3,7 @@
 #include <QLayout>
 
 #include "app/binding.h"
+#include "catalogues/bulk_work.h"
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/focus.h"
 
@@ -11,9 +12,6 @@ using namespace Qt::StringLiterals;
 namespace kaldo {
 
 namespace {
-
-/// What a business installation works with.
-constexpr int kAreasOfABusiness = 10;
 
 QList<GridColumn> areaColumns() {
     return {GridColumn(u"TIPO_PROD"_s, u"Area"_s, 6).mask(CellMask::Integer),
@@ -99,13 +97,7 @@ void TwoLists::reload() {
     NamedQuery &available = context_.odonto.ConsultaAreas;
     NamedQuery &added = context_.odonto.ServxCtro;
     const int places[] = {available.position(), added.position()};
-    if (context_.options.sector == Sector::Empresarial) {
-        available.setFilter([](const NamedQuery::RowReader &row) {
-            return row(u"tipo_prod"_s).toInt() <= kAreasOfABusiness;
-        });
-    } else {
-        available.setFilter({});
-    }
+    available.setFilter(areasOfSector(context_.options.sector));
     added.cancelUpdates();
     available.open({{u"centro"_s, centro_}, {u"cd"_s, context_.session.Origen.text()}});
     added.open({{u"cent"_s, centro_}});
