@@ -81,6 +81,8 @@ TEST_F(FRMDatosCajaTest, NumbersAndNamesAreRefusedByTheirBeginningInAllCampuses)
         EXPECT_EQ(grid()->currentField(), "NUM_CAJA");
         EXPECT_FALSE(saveEnabled());
     }
+    station.messages.expectWarning("El número de caja debe estar entre 1 y 32767.");
+    enter("32768");
     enter("120");
     enter("1");
     for (const char *taken : {"caja", "caja costa sur"}) {

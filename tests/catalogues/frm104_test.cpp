@@ -147,6 +147,9 @@ TEST_F(FRM104Test, DiscountsDecideWhetherTheServiceHasAny) {
         EXPECT_EQ(discounts->grid()->currentField(), "EDAD");
         picture(discounts->window(), "frm104a_insert");
         enter("0");
+        station.messages.expectWarning("El descuento no puede pasar de 100 %.");
+        enter("-101");
+        EXPECT_TRUE(discounts->editing());
         answer(kDiscountCorrect);
         enter("15");
         EXPECT_EQ(discount(1, "porcent").toInt(), 15);

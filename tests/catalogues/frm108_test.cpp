@@ -21,6 +21,11 @@ TEST_F(FRM108Test, FormIsAddedChangedAndDeletedByKeysAlone) {
     enter("3");
     EXPECT_TRUE(query().isNull("idtipo"));
     EXPECT_EQ(grid()->currentField(), "IDTIPO");
+    EXPECT_FALSE(button("SpeedButton3")->isEnabled());
+    enter("");
+    station.messages.expectWarning("Campo Obligatorio, vuelva a intentar");
+    alt(Qt::Key_G);
+    EXPECT_EQ(grid()->currentField(), "IDTIPO") << "no row without its key";
     enter("a7");  // the letter can't be typed
     EXPECT_TRUE(button("SpeedButton3")->isEnabled());
     answer(kSave);

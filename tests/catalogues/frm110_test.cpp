@@ -163,6 +163,29 @@ TEST_F(FRM110Test, ABankGetsOneProgramme) {
     grid()->setFocus();
     press(Qt::Key_Down);
     EXPECT_EQ(rows.integer("programaid"), 12510) << "it follows the bank";
+
+    // A row that is open stays that of its bank while the list of banks moves on.
+    programmes()->grid()->setFocus();
+    press(Qt::Key_F2);
+    grid()->setFocus();
+    press(Qt::Key_Up);
+    programmes()->grid()->setFocus();
+    answer(kSave);
+    enter("980");
+    const QString both =
+        "select max(iif(bancoid=1, programaid, 0))||' '||max(iif(bancoid=2, programaid, 0)) from "
+        "cg_bancoporprograma";
+    EXPECT_EQ(inFinance(both).toString(), "980 980");
+    EXPECT_EQ(inClinic(both).toString(), "980 980");
+
+    grid()->setFocus();
+    alt(Qt::Key_I);
+    enter("88");
+    programmes()->grid()->setFocus();
+    alt(Qt::Key_I);
+    EXPECT_FALSE(programmes()->editing()) << "the bank isn't written yet";
+    grid()->setFocus();
+    press(Qt::Key_Up);
     unfold();
     EXPECT_FALSE(child<QWidget>(screen.get(), "BancoProgramas")->isVisible());
 }

@@ -93,6 +93,15 @@ TEST_F(FRM111Test, ARateThatStandsOrIsNoneIsRefused) {
         press(Qt::Key_Up);
         EXPECT_FALSE(grid()->rowEdit());
     }
+    for (const char *typed : {"0", "1000000"}) {
+        press(Qt::Key_F2);
+        typeText(typed);
+        station.messages.expect(MessageKind::Warning, "*");
+        alt(Qt::Key_G);
+        EXPECT_TRUE(panel()->editing()) << "not past Enter either";
+        press(Qt::Key_Up);
+    }
+    EXPECT_EQ(inForce(), 19.5);
     alt(Qt::Key_I);
     enter("1.2.3");
     EXPECT_TRUE(grid()->editorOpen()) << "told beside the cell, and kept";

@@ -379,6 +379,12 @@ TEST_F(ControlPanel, ReceiptsAreKeptByTheMenu) {
         EXPECT_TRUE(at.panel().isVisible());
         EXPECT_EQ(at.rows(all), "1 copia 1|2 copia 3|3 copia 2");
 
+        at.pick("GridRecibos", "Agregar Registro");
+        at.messages.expectConfirmation("¿La Información es Correcta?", Answer::Yes);
+        at.messages.expectError("Un valor no corresponde a su campo.*");
+        at.pick("GridRecibos", "Grabar Registro");
+        press(Qt::Key_Escape);
+
         at.pick("GridRecibos", "Primer Registro");
         at.pick("GridRecibos", "Editar Registro");
         press(Qt::Key_Right);
