@@ -71,8 +71,10 @@ TEST_F(FRM100Test, RefusesByPrefixAndKnowsNothingOfTheRowItself) {
     station.messages.expectInformation(taken);
     press(Qt::Key_Return);
     EXPECT_TRUE(query().isNull("descr"));
-    typeText("Z");  // the key of a row that exists takes nothing
+    typeText("Z");          // the key of a row that exists takes nothing
+    press(Qt::Key_Return);  // and isn't tested against itself
     EXPECT_EQ(query().text("centro"), "01");
+    EXPECT_EQ(grid()->currentField(), "DESCR");
     press(Qt::Key_Down);
     EXPECT_EQ(query().text("descr"), "CLINICA DE LICENCIATURA VALLE NORTE");
 }
@@ -108,6 +110,15 @@ TEST_F(FRM100Test, LastWriteWinsAndAFailedOneKeepsTheRowOpen) {
     station.messages.expectWarning("El Campo Ciudad se encuentra vacío, favor de llenarlo");
     alt(Qt::Key_G);
     EXPECT_TRUE(panel()->editing());
+    press(Qt::Key_Escape);
+
+    station.session.Origen = "VAN";
+    panel()->reload();
+    changeInClinic("delete from ctroatencion where centro='01'");
+    answer(kRemove);
+    station.messages.expectError("Otra estación borró el registro, la información no se guardó.");
+    alt(Qt::Key_B);
+    EXPECT_EQ(query().text("centro"), "02");
 }
 
 TEST_F(FRM100Test, WhatShowsHangsOnSectorAndAccounting) {
@@ -129,6 +140,14 @@ TEST_F(FRM100Test, WhatShowsHangsOnSectorAndAccounting) {
         const QString page = report::pageText(preview("frm100"), 0);
         EXPECT_EQ(page.contains("Programa"), shown.accounts);
         EXPECT_TRUE(page.contains("CLINICA DE ESPECIALIDADES VALLE NORTE"));
+        press(Qt::Key_F2);
+        child<TextField>(screen.get(), "correoto")->setFocus();
+        settle();
+        if (!shown.accounts) {
+            answer(kSave, Answer::No);
+        }
+        press(Qt::Key_Return);
+        EXPECT_EQ(keyTarget()->objectName() == "prog", shown.accounts);
     }
 }
 

@@ -44,6 +44,16 @@ TEST_F(FRM101Test, ClinicsBelongToACentreAndAService) {
     EXPECT_TRUE(child<LookupField>(screen.get(), "TipoServicio")->text().isEmpty());
     EXPECT_EQ(grid()->model()->rowCount(), 0);
     EXPECT_FALSE(button("SpeedButton1")->isEnabled());
+
+    choose("CentroAtencion", "CLINICA DE LIC");
+    enter("ADULTOS");
+    auto *centre = child<LookupField>(screen.get(), "CentroAtencion");
+    centre->setFocus();
+    centre->selectAll();
+    settle();
+    press(Qt::Key_Delete);
+    EXPECT_TRUE(child<LookupField>(screen.get(), "TipoServicio")->text().isEmpty());
+    EXPECT_FALSE(query().isOpen() || button("SpeedButton1")->isEnabled());
 }
 
 TEST_F(FRM101Test, ClinicIsAddedChangedAndDeletedByKeysAlone) {

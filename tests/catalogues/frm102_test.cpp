@@ -1,31 +1,10 @@
 #include "catalogues/frm102_centre_areas.h"
 
-#include <gtest/gtest.h>
-
 #include "catalogues/two_lists.h"
-#include "data/database_error.h"
-#include "tests/support/accessibility.h"
-#include "tests/support/documents.h"
-#include "tests/support/keys.h"
-#include "tests/support/test_station.h"
+#include "tests/catalogues/catalogue_test.h"
 
 namespace kaldo::test {
 namespace {
-
-/// Refuses the k-th execution of a named query's writes.
-class RefuseWrite final : public Seam {
-public:
-    void beforeCommit(const Execution &execution) override {
-        if (execution.writes && --left_ == 0) {
-            throw DatabaseError("El servidor no contesta.",
-                                {DatabaseFailure::Other, {}, 0, {}, execution.connection, {}});
-        }
-    }
-    void refuse(int kth) { left_ = kth; }
-
-private:
-    int left_ = 0;
-};
 
 class FRM102Test : public ::testing::Test {
 protected:
@@ -98,10 +77,17 @@ TEST_F(FRM102Test, AreasGoToAndFroByKeysAlone) {
     EXPECT_EQ(stored(), 0);
     EXPECT_EQ(buttons(), "1100");
     EXPECT_EQ(stored("centro='01'"), 23) << "another centre keeps its own";
+
+    auto *centre = child<LookupField>(screen.get(), "Centro");
+    centre->setFocus();
+    centre->selectAll();
+    settle();
+    press(Qt::Key_Delete);
+    EXPECT_EQ(buttons(), "0000") << "no centre, no areas";
 }
 
 TEST_F(FRM102Test, RefusedWriteKeepsThoseBeforeIt) {
-    RefuseWrite seam;
+    RefusedWrite seam;
     station.conexion.setSeam(&seam);
     run(station.clinic(), "delete from serviciosxctro where centro='02'");
     open("CLINICA DE ESP");

@@ -58,11 +58,17 @@ TEST_F(FRM107Test, PriceIsAddedAndChangedByKeysAlone) {
     ASSERT_GT(query().count(), 0);
     picture(screen.get(), "frm107");
     alt(Qt::Key_I);
-    enter("987");
+    enter("-987");  // an item has no sign
     enter("resina de prueba");
     enter("");
     enter("pieza");
     picture(screen.get(), "frm107_insert");
+    for (const char *price : {"-0.01", "1000000000"}) {
+        station.messages.expectWarning(
+            "El precio debe estar entre $0.00 y $999,999,999.99, vuelva a intentar.");
+        enter(price);
+        EXPECT_EQ(grid()->currentField(), "MENUDEO");
+    }
     answer(kSave);
     enter("1,250.50");
     station.messages.verify();
@@ -109,6 +115,9 @@ TEST_F(FRM107Test, RefusesATakenCodeBeyondThreeDigitsToo) {
     const QString taken =
         "La clave ya se encuentra registrada para esta área y tipo de servicio, presione cualquier "
         "tecla para continuar.";
+    press(Qt::Key_Right);
+    station.messages.expectWarning("Campo Obligatorio, vuelva a intentar");
+    panel()->save();
     for (const char *clave : {"1", "2999", "002"}) {
         EXPECT_EQ(grid()->currentField(), "CVE_PROD");
         if (QString(clave) == "2999") {
@@ -182,6 +191,15 @@ TEST_F(FRM107Test, CopiesTheListIntoAnotherCampus) {
     enter("VAN");
     auto *generate = child<Button>(screen.get(), "Generar");
     EXPECT_FALSE(generate->isEnabled());
+    auto *programme = child<LookupField>(screen.get(), "Programa");
+    enter("COS");
+    programme->setFocus();
+    settle();
+    enter("980");
+    EXPECT_TRUE(generate->hasFocus());  // though no area is chosen
+    station.messages.expectWarning("Campo Obligatorio, vuelva a intentar");
+    press(Qt::Key_Return);
+    EXPECT_TRUE(child<LookupField>(screen.get(), "AreaDestino")->hasFocus());
     tellCopy("COS", "APERTURA DE");
     EXPECT_TRUE(generate->hasFocus());
     picture(screen.get(), "frm107_copy");
