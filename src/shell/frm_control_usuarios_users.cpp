@@ -75,11 +75,11 @@ QList<GridColumn> FRMControlUsuarios::userColumns() {
         return accounts ? column : column.hidden();
     };
     return {
-        textColumn(u"USUARIO"_s, u"Usuario"_s, 9, 8),
+        textColumn(u"USUARIO"_s, u"Usuario"_s, 8, 8),
         textColumn(u"PASS"_s, u"Contraseña"_s, 9, 8),
-        textColumn(u"NOMBRE"_s, u"Nombre"_s, 30, 60),
-        textColumn(u"NOMBRECORTO"_s, u"Nombre Corto"_s, 18, 20),
-        GridColumn(u"LKCAJA"_s, u"Caja"_s, 18)
+        textColumn(u"NOMBRE"_s, u"Nombre"_s, 24, 60).stretch(),
+        textColumn(u"NOMBRECORTO"_s, u"Nombre Corto"_s, 17, 20),
+        GridColumn(u"LKCAJA"_s, u"Caja"_s, 15)
             .lookup({&context().caja.DatosCaja2,
                      u"NUM_CAJA"_s,
                      u"NOMBRE"_s,
@@ -87,7 +87,7 @@ QList<GridColumn> FRMControlUsuarios::userColumns() {
                       {u"NOMBRE"_s, u"Nombre"_s, 22}}})
             .strict()
             .editable(),
-        GridColumn(u"LKCENTRO"_s, u"Centro"_s, 20)
+        GridColumn(u"LKCENTRO"_s, u"Centro"_s, 13)
             .lookup({&context().odonto.CtroAtencion1,
                      u"CENTRO"_s,
                      u"DESCR"_s,
@@ -96,7 +96,7 @@ QList<GridColumn> FRMControlUsuarios::userColumns() {
             .editable(),
         textColumn(u"TURNO"_s, u"Turno"_s, 5, 2),
         textColumn(u"ACCESO"_s, u"Acceso"_s, 6, 2),
-        textColumn(u"AUTORIZA"_s, u"Autoriza"_s, 9, 8),
+        textColumn(u"AUTORIZA"_s, u"Autoriza"_s, 8, 8),
         ifAccounts(textColumn(u"CAMPUS"_s, u"Campus"_s, 6, 1)),
         textColumn(u"ORIGEN"_s, u"Origen"_s, 6, 3),
         ifAccounts(numberColumn(u"USUARIOID"_s, u"Usuario Id"_s, 9, 9)),

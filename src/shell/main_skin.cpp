@@ -1,5 +1,6 @@
 #include "shell/main_skin.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPainter>
 #include <QPalette>
@@ -45,25 +46,46 @@ public:
 
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override {
-        if (element == CE_HeaderSection) {
+        if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
             painter->fillRect(option->rect, header_.isValid() ? header_ : kHeader);
             painter->setPen(header_.isValid() ? header_.lighter(130) : kHeaderLine);
-            painter->drawLine(option->rect.topRight(), option->rect.bottomRight());
+            if (element == CE_HeaderSection) {
+                painter->drawLine(option->rect.topRight(), option->rect.bottomRight());
+            }
             painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
             return;
         }
-        if (element == CE_HeaderLabel && header_.isValid()) {
+        if (element == CE_HeaderLabel) {
             if (const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option)) {
-                QStyleOptionHeader white = *header;
-                white.palette.setColor(QPalette::ButtonText, Qt::white);
-                QProxyStyle::drawControl(element, &white, painter, widget);
+                QStyleOptionHeader label = *header;
+                label.rect.adjust(kCellMargin, 0, -kCellMargin, 0);
+                if (header_.isValid()) {
+                    label.palette.setColor(QPalette::ButtonText, Qt::white);
+                }
+                QProxyStyle::drawControl(element, &label, painter, widget);
                 return;
             }
         }
         QProxyStyle::drawControl(element, option, painter, widget);
     }
 
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override {
+        const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
+        const bool cell = metric == PM_FocusFrameHMargin &&
+                          qobject_cast<const QAbstractItemView *>(widget) != nullptr;
+        return cell ? pixels + kCellMargin : pixels;
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget) const override {
+        QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        return type == CT_HeaderSection ? size.grownBy({kCellMargin, 0, kCellMargin, 0}) : size;
+    }
+
 private:
+    /// More air beside the texts of grids, so that a number and the text after it stand apart.
+    static constexpr int kCellMargin = 2;
     static inline const QColor kHeader{0xe6, 0xec, 0xf0};
     static inline const QColor kHeaderLine{0xcb, 0xd5, 0xdc};
 
@@ -84,10 +106,23 @@ QPalette basePalette() {
     palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfb, 0xe6));
     palette.setColor(QPalette::ToolTipText, kInk);
     palette.setColor(QPalette::PlaceholderText, QColor(0x94, 0xa3, 0xb8));
+    // What a disabled field holds is still read.
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, QColor(0x94, 0xa0, 0xae));
+        palette.setColor(QPalette::Disabled, role, QColor(0x6f, 0x7b, 0x89));
     }
+    palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Window));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0xcb, 0xd5, 0xe1));
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, kInk);
+    return palette;
+}
+
+/// Lists and grids: the marked row is strong only where the keys go.
+QPalette viewPalette(const QColor &selected, const QColor &text) {
+    QPalette palette = basePalette();
+    palette.setColor(QPalette::Active, QPalette::Highlight, selected);
+    palette.setColor(QPalette::Active, QPalette::HighlightedText, text);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xdd, 0xe4, 0xea));
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, kInk);
     return palette;
 }
 
@@ -166,7 +201,7 @@ QColor baseAccent() {
 void applyBaseLook() {
     QApplication::setStyle(new KaldoStyle);
     QApplication::setPalette(basePalette());
-    QApplication::setPalette(basePalette(), "QAbstractItemView");
+    QApplication::setPalette(viewPalette(baseAccent(), Qt::white), "QAbstractItemView");
 }
 
 void applyScheme(const ColourScheme &scheme) {
@@ -178,9 +213,7 @@ void applyScheme(const ColourScheme &scheme) {
     palette.setColor(QPalette::Link, scheme.kaldoColor);
     QApplication::setPalette(palette);
     // Rows are selected in the pale colour; the focus keeps the strong one.
-    palette.setColor(QPalette::Highlight, scheme.kaldoSelect);
-    palette.setColor(QPalette::HighlightedText, kInk);
-    QApplication::setPalette(palette, "QAbstractItemView");
+    QApplication::setPalette(viewPalette(scheme.kaldoSelect, kInk), "QAbstractItemView");
 }
 
 }  // namespace kaldo

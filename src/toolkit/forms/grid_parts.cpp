@@ -313,6 +313,9 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                          const QModelIndex &index) const {
     QStyleOptionViewItem plain = option;
     plain.state.setFlag(QStyle::State_HasFocus, false);
+    if (!grid_->hasFocus() && !grid_->state_->editor) {
+        plain.state.setFlag(QStyle::State_Active, false);  // keys go elsewhere: a muted row
+    }
     QStyledItemDelegate::paint(painter, plain, index);
     const GridColumn::Settings *column = columnAt(index.column());
     if (column && column->yesNo) {
@@ -320,11 +323,16 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
     if (index == grid_->currentIndex() && grid_->hasFocus()) {
         // The cell that keys go to, told apart from the row that is marked.
-        QPen frame(option.palette.color(QPalette::Highlight).darker(170), 2);
+        const QPalette &palette = option.palette;
+        QPen frame(QApplication::palette().color(QPalette::Highlight).darker(170), 2);
         frame.setJoinStyle(Qt::MiterJoin);
         painter->save();
         painter->setPen(frame);
         painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
+        if (palette.color(QPalette::Highlight).lightness() < 128) {
+            painter->setPen(QPen(palette.color(QPalette::HighlightedText), 1));
+            painter->drawRect(option.rect.adjusted(2, 2, -3, -3));
+        }
         painter->restore();
     }
 }
@@ -485,6 +493,8 @@ void GridFooter::paintEvent(QPaintEvent *) {
     bold.setBold(true);
     painter.setFont(bold);
     painter.setPen(palette().color(QPalette::ButtonText));
+    // Under the digits of the cells.
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, grid_) + 2;
     const auto &sections = grid_->state_->bySection;
     for (auto column = sections.cbegin(); column != sections.cend(); ++column) {
         if (!column->sum || grid_->isColumnHidden(column.key())) {
@@ -492,7 +502,7 @@ void GridFooter::paintEvent(QPaintEvent *) {
         }
         const QString text = maskedText(grid_->sum(column->field), *column->sum);
         const int right =
-            grid_->columnViewportPosition(column.key()) + grid_->columnWidth(column.key()) - 4;
+            grid_->columnViewportPosition(column.key()) + grid_->columnWidth(column.key()) - margin;
         // A sum may be wider than its column; it grows to the left.
         const int wide = painter.fontMetrics().horizontalAdvance(text) + 2;
         const int left = std::min(grid_->columnViewportPosition(column.key()) + 3, right - wide);
