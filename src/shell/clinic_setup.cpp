@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kNotesOfAYear = 1000000;
 constexpr int kShortName = 20;
+constexpr int kUserCampus = 1;
 const QString kUniversal = QStringLiteral("000");
 
 /// What a new cashier may do.
@@ -23,8 +24,9 @@ QString deskCampus(const SetupValues &values) {
     return values.campus.isEmpty() ? u"1"_s : values.campus.left(1);
 }
 
+/// "3- Costa Sur" has a hyphen where the others have a blank; the column has no room for it.
 QString userCampus(const SetupValues &values) {
-    return values.campus.left(2).trimmed().toUpper();
+    return cutToWidth(values.campus.left(2).trimmed().toUpper(), kUserCampus);
 }
 
 /// The table of rights has one column per menu entry behind these.

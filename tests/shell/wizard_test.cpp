@@ -66,11 +66,11 @@ protected:
         press(Qt::Key_Return);
     }
     /// The first page, from the name of the city on.
-    void fillData(bool campus = true) {
+    void fillData(const QString &campus = "2") {
         enter("Valle Norte");
         enter("BCN");
-        if (campus) {
-            enter("2");
+        if (!campus.isEmpty()) {
+            enter(campus);
         }
         enter("a1");
         enter("Clínica Central");
@@ -207,7 +207,7 @@ TEST_F(Wizard, BusinessHasNoCampusAndNoAgesNeedNoRange) {
     station.installation.setIni("Cliente", "sector", "1");
     atWizard([&] {
         EXPECT_FALSE(find<QWidget>("ComboBox2")->isVisible());
-        fillData(false);
+        fillData("");
         press(Qt::Key_Return);
         EXPECT_EQ(find<DataGrid>("AreasDisponibles")->model()->rowCount(), 10);
         addAreas({5});
@@ -238,7 +238,7 @@ TEST_F(Wizard, BusinessHasNoCampusAndNoAgesNeedNoRange) {
 
 TEST_F(Wizard, FailureLeavesTheEarlierRowsAndGoesOnFromThere) {
     atWizard([&] {
-        fillData();
+        fillData("3");
         // A code that the table of users already has.
         find<TextField>("Edit6")->setText("admin");
         alt(Qt::Key_S);
@@ -268,7 +268,7 @@ TEST_F(Wizard, FailureLeavesTheEarlierRowsAndGoesOnFromThere) {
         alt(Qt::Key_T);
     });
     EXPECT_EQ(writes.names.join(u' '), "cg_usuario");
-    EXPECT_EQ(row("select usuario from controlusuarios order by 1"), "admin|ana");
+    EXPECT_EQ(row("select usuario, campus from controlusuarios order by 1"), "admin|3|ana|3");
 }
 
 TEST_F(Wizard, ClosedUnfinishedLeavesNothingAndComesBack) {
