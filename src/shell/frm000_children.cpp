@@ -70,7 +70,9 @@ void FRM000::childGone() {
 }
 
 void FRM000::dropChildren() {
-    qDeleteAll(backdrop_->subWindowList());
+    // Also those that are closed and wait for the event loop: screens speak to the window as they
+    // go.
+    qDeleteAll(backdrop_->findChildren<QMdiSubWindow *>());
 }
 
 void FRM000::openScreen(const ScreenMaker &maker) {
