@@ -7,6 +7,8 @@
 #include "data/catalogue_texts.h"
 #include "toolkit/forms/form.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kaldo {
@@ -59,6 +61,8 @@ form::Item FRM105::duplicates() {
                   number(&idInicial_, u"IdInicial"_s, u"ID Inicial"_s)
                       .range(0, kHighestFirstId)
                       .width(3)
+                      .key(Qt::Key_Up, [this] { stepFirstId(1); })
+                      .key(Qt::Key_Down, [this] { stepFirstId(-1); })
                       .changed(recheck),
                   text(&origen_, u"Origen"_s, u"Origen"_s)
                       .width(2)
@@ -193,6 +197,10 @@ void FRM105::chooseCampus() {
         ciudad_->clearField();
         stayHere();
     }
+}
+
+void FRM105::stepFirstId(int step) {
+    idInicial_->setValue(std::clamp<qint64>(idInicial_->value() + step, 0, kHighestFirstId));
 }
 
 bool FRM105::copyIsTold() const {

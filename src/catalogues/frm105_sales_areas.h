@@ -33,6 +33,8 @@ private:
 
     void toggleDuplicates();
     void chooseCampus();
+    /// "ID Inicial" counts with the arrow keys.
+    void stepFirstId(int step);
     bool copyIsTold() const;
     void generarAreas();
     void copyAreas(const QString &campus, int firstId, const QString &origen);

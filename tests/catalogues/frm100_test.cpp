@@ -1,5 +1,8 @@
 #include "catalogues/frm100_care_centres.h"
 
+#include <QApplication>
+#include <QClipboard>
+
 #include "tests/catalogues/catalogue_test.h"
 
 namespace kaldo::test {
@@ -82,7 +85,10 @@ TEST_F(FRM100Test, RefusesByPrefixAndKnowsNothingOfTheRowItself) {
 TEST_F(FRM100Test, LastWriteWinsAndAFailedOneKeepsTheRowOpen) {
     open();
     press(Qt::Key_F2);
-    enter("calle del \"mar\" 5%");
+    QApplication::clipboard()->setText("calle del\n\"mar\"\u20285%" + QString(80, 'x'));
+    press(Qt::Key_F2);
+    press(Qt::Key_V, Qt::ControlModifier);
+    press(Qt::Key_Return);
     child<TextField>(screen.get(), "responsable")->setFocus();
     typeText("o'hara");
     changeInClinic("update ctroatencion set domicilio='LO SUYO', colonia='OTRA' where centro='01'");
@@ -93,7 +99,7 @@ TEST_F(FRM100Test, LastWriteWinsAndAFailedOneKeepsTheRowOpen) {
     EXPECT_EQ(stored("01", "domicilio").toString(), "LO SUYO");
     answer(kSave);
     alt(Qt::Key_G);
-    EXPECT_EQ(stored("01", "domicilio").toString(), "CALLE DEL \"MAR\" 5%");
+    EXPECT_EQ(stored("01", "domicilio").toString(), "CALLE DEL \"MAR\" 5%" + QString(42, 'X'));
     EXPECT_TRUE(stored("01", "responsable").toString().contains("O'HARA"));
 
     child<NumberField>(screen.get(), "cp")->setFocus();  // takes input in consult mode too

@@ -156,7 +156,12 @@ TEST_F(FRM105Test, CopiesTheAreasIntoAnotherCampus) {
     child<NumberField>(screen.get(), "IdInicial")->setFocus();
     child<NumberField>(screen.get(), "IdInicial")->selectAll();
     settle();
-    enter("50");
+    enter("500");  // more than there can be
+    EXPECT_TRUE(child<NumberField>(screen.get(), "IdInicial")->hasFocus());
+    child<NumberField>(screen.get(), "IdInicial")->selectAll();
+    typeText("49");
+    press(Qt::Key_Up);
+    press(Qt::Key_Return);
     press(Qt::Key_Return);
     ASSERT_TRUE(generate()->isEnabled());
     picture(screen.get(), "frm105_copy");

@@ -4,6 +4,7 @@
 #include "toolkit/core/text.h"
 #include "toolkit/forms/date_field.h"
 #include "toolkit/forms/focus_keeper.h"
+#include "toolkit/forms/one_line_text.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -25,7 +26,7 @@ public:
 
     State validate(QString &input, int &) const override {
         for (QChar &c : input) {
-            if (c.category() == QChar::Other_Control) {
+            if (breaksLine(c)) {
                 c = QLatin1Char(' ');
             }
             if (column_.upper) {

@@ -2,6 +2,7 @@
 
 #include "toolkit/core/text.h"
 #include "toolkit/forms/focus.h"
+#include "toolkit/forms/one_line_text.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -112,8 +113,7 @@ QSize LineField::minimumSizeHint() const {
 
 void LineField::normalise(QString *text, int *position) const {
     for (QChar &c : *text) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-            c == QChar::ParagraphSeparator) {
+        if (breaksLine(c)) {
             c = QLatin1Char(' ');
         }
     }
