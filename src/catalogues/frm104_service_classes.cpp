@@ -45,7 +45,7 @@ CatalogueRules FRM104::services() {
     rules.keys = {u"tipo_prod"_s};
     rules.columns = {
         GridColumn(u"TIPO_PROD"_s, u"Clave"_s, 8).mask(CellMask::Integer),
-        GridColumn(u"CLDESCR"_s, u"Descripción"_s, 40),
+        GridColumn(u"CLDESCR"_s, u"Descripción"_s, 40).stretch(),
         GridColumn(u"APLICA_ANTICIPO"_s, u"Anticipo"_s, 10).yesNo().editable(),
         GridColumn(u"APLICADESC"_s, u"Aplica Descto."_s, 14).yesNo().editable(),
         GridColumn(u"REQUIERE_EDAD"_s, u"Req. Edad"_s, 10).yesNo().editable(),

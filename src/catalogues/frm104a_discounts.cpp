@@ -54,7 +54,7 @@ CatalogueRules FRM104a::discounts() {
                       {u"DESCRIPCION"_s, u"Descripción"_s, 44}}})
             .strict()
             .editable(),
-        GridColumn(u"CLDESCR"_s, u"Descripción"_s, 46),
+        GridColumn(u"CLDESCR"_s, u"Descripción"_s, 48).stretch(),
         GridColumn(u"EDAD"_s, u"Edad"_s, 8).digits(3).editable(),
         GridColumn(u"PORCENT"_s, u"% Descuento"_s, 12).digits(3).editable(),
     };

@@ -36,6 +36,7 @@ CatalogueRules FRM106::laboratories() {
     rules.columns = {
         GridColumn(u"SUBSUBCTA"_s, u"Subsubcta"_s, 10).mask(CellMask::Integer),
         GridColumn(u"DESCR"_s, u"Descripción"_s, 40)
+            .stretch()
             .lookup({&context().finanzas.csubsubcta,
                      u"DESCRIPCION"_s,
                      u"DESCRIPCION"_s,

@@ -47,7 +47,7 @@ CatalogueRules FRM110::banks() {
                       {u"DESCRIPCION"_s, u"Descripción"_s, 44}}})
             .strict(),
         GridColumn(u"NOMENCLATURA"_s, u"Nomenclatura"_s, 16),
-        GridColumn(u"DESCRIPCION"_s, u"Dedscripción"_s, 23).limit(250).upper().stretch().editable(),
+        GridColumn(u"DESCRIPCION"_s, u"Dedscripción"_s, 30).limit(250).upper().stretch().editable(),
         GridColumn(u"TIPOMONEDA"_s, u"Tipo Moneda"_s, 22)
             .mask(CellMask::Integer)
             .align(Qt::AlignLeft)

@@ -119,10 +119,12 @@ void Backdrop::paintCaption(QPainter &painter, const QRect &area) {
     title.setPointSizeF(font().pointSizeF() * 1.8);
     title.setWeight(QFont::DemiBold);
     painter.setFont(title);
-    painter.setPen(captionColour_);
+    // The scheme's colours are made for its picture, which may be missing or still to come.
+    const bool onPicture = !stretched_.isNull();
+    painter.setPen(onPicture ? captionColour_ : kGroundText);
     painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, caption_);
     painter.setFont(font());
-    painter.setPen(linkColour_);
+    painter.setPen(onPicture ? linkColour_ : kGroundLink);
     painter.drawText(inner, Qt::AlignRight | Qt::AlignBottom, subtitle_);
 }
 

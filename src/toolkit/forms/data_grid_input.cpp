@@ -16,6 +16,9 @@ namespace kaldo {
 
 namespace {
 
+/// What a grid asks for at most: on the smallest desktop its window still fits, with its frame.
+constexpr int kWidest = 960;
+
 /// What a cell stores when a row of its list is chosen.
 QVariant valueInList(const GridColumn::Settings &column, int row) {
     const QAbstractItemModel &list = *column.lookup->model;
@@ -427,7 +430,7 @@ QSize DataGrid::sizeHint() const {
         columns += column.hidden ? 0 : columnPixels(column);
     }
     const int width = columns + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
-    return {std::min(width, 900), height};
+    return {std::min(width, kWidest), height};
 }
 
 }  // namespace kaldo
