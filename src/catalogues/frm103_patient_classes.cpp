@@ -28,7 +28,7 @@ CatalogueRules FRM103::classes() {
     rules.keys = {u"prestacion"_s};
     rules.columns = {
         GridColumn(u"PRESTACION"_s, u"Clave"_s, 9).mask(CellMask::Integer).limit(9).editable(),
-        GridColumn(u"DESCRIPCION"_s, u"Descripción"_s, 60).limit(100).upper().editable(),
+        GridColumn(u"DESCRIPCION"_s, u"Descripción"_s, 60).limit(100).upper().stretch().editable(),
         beneficiario,
     };
     rules.fixedOnEdit = {u"PRESTACION"_s};
@@ -102,6 +102,13 @@ bool FRM103::previewReport() {
                                           options().ContabilidadGubernamental),
                      windowTitle());
     return true;
+}
+
+void editPatientClasses(NamedQuery &prestaciones) {
+    if (!prestaciones.isOpen()) {
+        prestaciones.open();
+    }
+    prestaciones.edit();
 }
 
 }  // namespace kaldo

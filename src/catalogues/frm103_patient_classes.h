@@ -27,4 +27,9 @@ private:
     CataloguePanel *panel_ = nullptr;
 };
 
+/// What opening a row leads to in two other catalogues: of the two data sets it is the
+/// classification of patients that is opened for editing; the row of the screen itself follows
+/// with the first key that writes into it.
+void editPatientClasses(NamedQuery &prestaciones);
+
 }  // namespace kaldo

@@ -1,5 +1,6 @@
 #include "catalogues/frm109_payment_methods.h"
 
+#include "catalogues/frm103_patient_classes.h"
 #include "catalogues/payment_methods_report.h"
 #include "data/catalogue_texts.h"
 #include "toolkit/forms/form.h"
@@ -25,7 +26,7 @@ CatalogueRules FRM109::methods() {
     rules.saveQuestion = u"La información es correcta?"_s;
     rules.removeQuestion = u"Desea borrar este registro?"_s;
     rules.writeFailure = WriteFailure::CancelsEdit;
-    rules.openRow = [this] { openRow(); };
+    rules.openRow = [this] { editPatientClasses(context().odonto.Prestaciones); };
     rules.saveRefused = [this] { context().odonto.Prestaciones.cancelUpdates(); };
     rules.enter = {
         {u"CLAVE"_s, [this] { return enterClave(); }},
@@ -41,16 +42,6 @@ void FRM109::formCreate() {
 
 void FRM109::activated() {
     panel_->refresh();
-}
-
-/// Of the two data sets it is the classification of patients that is opened; the row of this
-/// screen follows with the first key that writes into it.
-void FRM109::openRow() {
-    NamedQuery &prestaciones = context().odonto.Prestaciones;
-    if (!prestaciones.isOpen()) {
-        prestaciones.open();
-    }
-    prestaciones.edit();
 }
 
 EnterResult FRM109::enterClave() {

@@ -20,7 +20,6 @@ protected:
 
 private:
     CatalogueRules methods();
-    void openRow();
     EnterResult enterClave();
     EnterResult enterDescripcion();
 

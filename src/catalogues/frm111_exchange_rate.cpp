@@ -1,5 +1,6 @@
 #include "catalogues/frm111_exchange_rate.h"
 
+#include "catalogues/frm103_patient_classes.h"
 #include "data/catalogue_texts.h"
 #include "toolkit/forms/form.h"
 
@@ -36,7 +37,7 @@ CatalogueRules FRM111::rates() {
     rules.writeFailure = WriteFailure::CancelsEdit;
     rules.insertsFirst = true;
     rules.defaults = [this](NamedQuery &row) { row.set(u"fecha"_s, context().clock.today()); };
-    rules.openRow = [this] { openRow(); };
+    rules.openRow = [this] { editPatientClasses(context().odonto.Prestaciones); };
     rules.enter = {{u"TIPO_CAM"_s, [this] { return enterTipoCambio(); }}};
     rules.accept = [this] { return isRate(); };
     rules.write = [this] { write(); };
@@ -50,16 +51,6 @@ void FRM111::formCreate() {
 
 void FRM111::activated() {
     panel_->refresh();
-}
-
-/// Of the two data sets it is the classification of patients that is opened; the row of this
-/// screen follows with the first key that writes into it.
-void FRM111::openRow() {
-    NamedQuery &prestaciones = context().odonto.Prestaciones;
-    if (!prestaciones.isOpen()) {
-        prestaciones.open();
-    }
-    prestaciones.edit();
 }
 
 EnterResult FRM111::enterTipoCambio() {

@@ -19,7 +19,6 @@ protected:
 
 private:
     CatalogueRules rates();
-    void openRow();
     EnterResult enterTipoCambio();
     bool isRate();
     void write();

@@ -59,8 +59,9 @@ std::vector<Band> areaHead(const ServiceClassLine &row) {
 }
 
 Band classLine(const ServiceClassLine &row) {
+    const QString porcent = row.porcent.isEmpty() ? QString() : QString(row.porcent + u" %"_s);
     return classTable().row(
-        {QString(), QString::number(row.prestacion), row.prestacionDescr, row.porcent + u" %"_s});
+        {QString(), QString::number(row.prestacion), row.prestacionDescr, porcent});
 }
 
 }  // namespace
@@ -94,7 +95,11 @@ report::Document layoutServiceClasses(const CatalogueHeading &heading,
                                       const QList<ServiceClassLine> &rows) {
     report::Layout layout = catalogueLayout(heading, u"Clasificación de Servicios Prestados"_s);
     const ServiceClassLine *before = nullptr;
-    for (const ServiceClassLine &row : rows) {
+    for (qsizetype at = 0; at < rows.size(); ++at) {
+        const ServiceClassLine &row = rows.at(at);
+        if (row.prestacion == 0 && at + 1 < rows.size() && rows.at(at + 1).sameArea(row)) {
+            continue;  // no class, in an area that has some
+        }
         if (before != nullptr && before->sameArea(row)) {
             layout.place(classLine(row));
             continue;

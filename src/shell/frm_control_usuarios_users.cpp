@@ -1,5 +1,6 @@
 #include "shell/frm_control_usuarios_users.h"
 
+#include "catalogues/lookups.h"
 #include "data/catalogue_texts.h"
 #include "shell/users_report.h"
 
@@ -88,10 +89,7 @@ QList<GridColumn> FRMControlUsuarios::userColumns() {
             .strict()
             .editable(),
         GridColumn(u"LKCENTRO"_s, u"Centro"_s, 13)
-            .lookup({&context().odonto.CtroAtencion1,
-                     u"CENTRO"_s,
-                     u"DESCR"_s,
-                     {{u"CENTRO"_s, u"Centro"_s, 8}, {u"DESCR"_s, u"Descripción"_s, 44}}})
+            .lookup(centres(context().odonto.CtroAtencion1))
             .strict()
             .editable(),
         textColumn(u"TURNO"_s, u"Turno"_s, 5, 2),

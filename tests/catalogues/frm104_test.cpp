@@ -189,6 +189,9 @@ TEST_F(FRM104Test, ReportGroupsByCentreAndArea) {
     EXPECT_TRUE(page.contains("Centro de Atención\n01   CLINICA DE LICENCIATURA VALLE NORTE\n"));
     EXPECT_TRUE(page.contains("Area de Atención\n"));
     EXPECT_TRUE(page.contains("3\nCONYUGE DE EMPLEADO ADMINISTRATIVO\n40 %\n"));
+    changeInClinic(
+        "insert into prestacionxserv (centro, tipo_prod, prestacion) values ('01', 4, 0)");
+    EXPECT_EQ(report::pageText(preview("frm104_zero"), 0), page) << "no class among others";
 }
 
 }  // namespace
