@@ -334,10 +334,15 @@ EnterResult CataloguePanel::refuseWarning(const QString &field, const QString &t
 }
 
 EnterResult CataloguePanel::cleared(const QString &field) {
-    rules_.query->set(field, QVariant());
-    if (inserting() && rules_.fixedOnEdit.contains(field, Qt::CaseInsensitive)) {
+    const bool key = rules_.fixedOnEdit.contains(field, Qt::CaseInsensitive);
+    if (key && inserting()) {
         saveAllowed_ = false;
         updateButtons();
+    }
+    // The tests make no exception for the row itself, but the key of a row that stands can't be
+    // written: it is told and kept.
+    if (!key || inserting()) {
+        rules_.query->set(field, QVariant());
     }
     return EnterResult::Stay;
 }
@@ -367,10 +372,8 @@ void CataloguePanel::enterColumn(const QString &field) {
         return;
     }
     const auto handler = rules_.enter.constFind(field);
-    // The key of a row that exists has nothing to be tested; a refusal would empty it.
-    const bool fixed = !inserting_ && rules_.fixedOnEdit.contains(field);
     const EnterResult result =
-        fixed || handler == rules_.enter.constEnd() ? EnterResult::Next : (*handler)();
+        handler == rules_.enter.constEnd() ? EnterResult::Next : (*handler)();
     if (!editing()) {
         return;
     }

@@ -55,7 +55,7 @@ struct CatalogueRules {
     std::function<void(NamedQuery &row)> defaults;
     /// Opens the current row; else query->edit().
     std::function<void()> openRow;
-    /// By field. Those of fixedOnEdit run for a new row only.
+    /// By field.
     QHash<QString, std::function<EnterResult()>> enter;
     /// Before the question of "&Grabar"; false keeps the row open.
     std::function<bool()> accept;

@@ -74,10 +74,11 @@ TEST_F(FRM100Test, RefusesByPrefixAndKnowsNothingOfTheRowItself) {
     station.messages.expectInformation(taken);
     press(Qt::Key_Return);
     EXPECT_TRUE(query().isNull("descr"));
-    typeText("Z");          // the key of a row that exists takes nothing
-    press(Qt::Key_Return);  // and isn't tested against itself
+    typeText("Z");  // the key of a row that stands takes nothing, is found by its test, and stays
+    station.messages.expectInformation("El centro ya existe vuelva a intentar");
+    press(Qt::Key_Return);
     EXPECT_EQ(query().text("centro"), "01");
-    EXPECT_EQ(grid()->currentField(), "DESCR");
+    EXPECT_EQ(grid()->currentField(), "CENTRO");
     press(Qt::Key_Down);
     EXPECT_EQ(query().text("descr"), "CLINICA DE LICENCIATURA VALLE NORTE");
 }
