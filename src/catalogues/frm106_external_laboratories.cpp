@@ -66,7 +66,7 @@ CatalogueRules FRM106::laboratories() {
              return EnterResult::Stay;
          }},
     };
-    rules.accept = [this] { return hasAccount(); };
+    rules.accept = [this] { return takesChosenAccount() && hasAccount(); };
     rules.complete = [this] { return completeRow(); };
     return rules;
 }
@@ -150,6 +150,14 @@ EnterResult FRM106::enterDescripcion() {
 
 EnterResult FRM106::enterDomicilio() {
     return panel_->query().text(u"domicilio"_s).isEmpty() ? panel_->required() : EnterResult::Next;
+}
+
+/// A name that was chosen brings its account along, also to who saves before Enter.
+bool FRM106::takesChosenAccount() {
+    const NamedQuery &row = panel_->query();
+    const int chosen = context().finanzas.csubsubcta.integer(u"subsubctaid"_s);
+    const bool other = !row.isNull(u"subsubcta"_s) && row.integer(u"subsubcta"_s) != chosen;
+    return !other || !accountTaken() || enterDescripcion() != EnterResult::Stay;
 }
 
 bool FRM106::hasAccount() {

@@ -26,6 +26,7 @@ private:
     bool accountTaken() const;
     EnterResult enterDescripcion();
     EnterResult enterDomicilio();
+    bool takesChosenAccount();
     bool hasAccount();
     bool completeRow();
     void saveIfOpen();

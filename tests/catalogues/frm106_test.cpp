@@ -82,14 +82,23 @@ TEST_F(FRM106Test, AnAccountIsOneLaboratoryInAnyCampus) {
         EXPECT_FALSE(button("SpeedButton3")->isEnabled());
         press(Qt::Key_Down);
     }
-    // A row that is open is no exception, and can't be saved without its account.
-    press(Qt::Key_F2);
-    station.messages.expectInformation(kRegistered);
-    press(Qt::Key_Return);
-    station.messages.expectWarning(kRequired);
-    alt(Qt::Key_G);
-    EXPECT_TRUE(panel()->editing());
-    press(Qt::Key_Escape);
+    // A row that is open is no exception, nor one that is saved before Enter, and none can be saved
+    // without its account.
+    for (const bool before : {false, true}) {
+        press(Qt::Key_F2);
+        station.messages.expectInformation(kRegistered);
+        if (before) {
+            typeText("CERAMICA");
+            alt(Qt::Key_G);
+            EXPECT_TRUE(query().isNull("subsubcta"));
+        } else {
+            press(Qt::Key_Return);
+            station.messages.expectWarning(kRequired);
+            alt(Qt::Key_G);
+        }
+        EXPECT_TRUE(panel()->editing());
+        press(Qt::Key_Escape);
+    }
     EXPECT_EQ(query().count(), listed);
     EXPECT_EQ(query().integer("subsubcta"), 301);
 
