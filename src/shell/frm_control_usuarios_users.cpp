@@ -78,7 +78,7 @@ QList<GridColumn> FRMControlUsuarios::userColumns() {
     return {
         textColumn(u"USUARIO"_s, u"Usuario"_s, 8, 8),
         textColumn(u"PASS"_s, u"Contraseña"_s, 9, 8),
-        textColumn(u"NOMBRE"_s, u"Nombre"_s, 24, 60).stretch(),
+        textColumn(u"NOMBRE"_s, u"Nombre"_s, 20, 60).stretch(),
         textColumn(u"NOMBRECORTO"_s, u"Nombre Corto"_s, 17, 20),
         GridColumn(u"LKCAJA"_s, u"Caja"_s, 15)
             .lookup({&context().caja.DatosCaja2,

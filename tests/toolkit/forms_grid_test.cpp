@@ -69,6 +69,23 @@ TEST(DataGrid, EnterCommitsTheCellThenRunsTheHandlerThenMovesOn) {
     EXPECT_TRUE(form.save->hasFocus());
 }
 
+TEST(DataGrid, TheMarkedRowIsMutedWithoutTheFocus) {
+    Grid form;
+    QPalette colours = form.table->palette();
+    colours.setColor(QPalette::Active, QPalette::Highlight, Qt::blue);
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, Qt::yellow);
+    form.table->setPalette(colours);
+    form.table->setCurrentRow(1);
+    const auto ground = [&] {
+        const QRect cell = form.table->visualRect(form.table->currentIndex().siblingAtColumn(1));
+        return form.table->viewport()->grab().toImage().pixelColor(cell.bottomRight() -
+                                                                   QPoint(6, 6));
+    };
+    EXPECT_EQ(ground(), QColor(Qt::blue));
+    form.save->setFocus();
+    EXPECT_EQ(ground(), QColor(Qt::yellow));
+}
+
 TEST(DataGrid, TheHandlerSaysWhereTheColumnGoes) {
     Grid form;
     form.table->setRowEdit(true);

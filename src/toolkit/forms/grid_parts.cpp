@@ -314,8 +314,9 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                          const QModelIndex &index) const {
     QStyleOptionViewItem plain = option;
     plain.state.setFlag(QStyle::State_HasFocus, false);
-    if (!grid_->hasFocus() && !grid_->state_->editor) {
-        plain.state.setFlag(QStyle::State_Active, false);  // keys go elsewhere: a muted row
+    if (!grid_->hasFocus()) {
+        // Keys go elsewhere, or into the editor of a cell that stands out of a muted row.
+        plain.state.setFlag(QStyle::State_Active, false);
     }
     QStyledItemDelegate::paint(painter, plain, index);
     const GridColumn::Settings *column = columnAt(index.column());
