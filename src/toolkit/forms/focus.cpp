@@ -177,7 +177,8 @@ void paintFocusRing(QWidget *widget) {
     }
     QPainter painter(widget);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(widget->palette().color(QPalette::Active, QPalette::Highlight), 2));
+    // The application's own: lists and their editors mark rows in a paler colour.
+    painter.setPen(QPen(QApplication::palette().color(QPalette::Active, QPalette::Highlight), 2));
     painter.drawRoundedRect(QRectF(widget->rect()).adjusted(1, 1, -1, -1), 2.5, 2.5);
 }
 

@@ -363,6 +363,12 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     auto *editor = new QLineEdit(parent);
     editor->setObjectName(QStringLiteral("cellEditor"));
     editor->setFrame(true);
+    // A field like others, not in the paler colours in which a grid marks its rows.
+    QPalette colours = editor->palette();
+    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText}) {
+        colours.setBrush(role, QApplication::palette().brush(QPalette::Active, role));
+    }
+    editor->setPalette(colours);
     if (column) {
         editor->setAccessibleName(column->title);
         editor->setAlignment(alignmentOf(*column));
