@@ -48,5 +48,5 @@ function(kaldo_test folder)
   target_precompile_headers(test_${suffix} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_test.h)
   add_test(NAME ${suffix} COMMAND test_${suffix})
   set_tests_properties(${suffix} PROPERTIES TIMEOUT ${arg_TIMEOUT}
-                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=America/Tijuana")
+                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=America/Tijuana;LC_ALL=C.UTF-8")
 endfunction()
