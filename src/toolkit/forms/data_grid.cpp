@@ -455,29 +455,4 @@ void DataGrid::sortBy(int section) {
     state_->header->setSortIndicator(state_->sortedBy, state_->order);
 }
 
-void DataGrid::setHeaderColor(const QColor &background, const QColor &text) {
-    QPalette colors = state_->header->palette();
-    colors.setColor(QPalette::Button, background);
-    colors.setColor(QPalette::Window, background);
-    colors.setColor(QPalette::ButtonText, text);
-    colors.setColor(QPalette::WindowText, text);
-    state_->header->setPalette(colors);
-    state_->footer->setPalette(colors);
-}
-
-void DataGrid::setSelectionColor(const QColor &background, const QColor &text) {
-    QPalette colors = palette();
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        colors.setColor(group, QPalette::Highlight, background);
-        colors.setColor(group, QPalette::HighlightedText, text);
-    }
-    setPalette(colors);
-}
-
-void DataGrid::setAlternateColor(const QColor &background) {
-    QPalette colors = palette();
-    colors.setColor(QPalette::AlternateBase, background);
-    setPalette(colors);
-}
-
 }  // namespace kaldo

@@ -148,10 +148,6 @@ public:
     /// Header clicks sort the shown rows; off unless told, where an order is given.
     void setSortable(bool on);
 
-    void setHeaderColor(const QColor &background, const QColor &text);
-    void setSelectionColor(const QColor &background, const QColor &text);
-    void setAlternateColor(const QColor &background);
-
     bool commit() override { return commitEditor(); }
     void clearField() override {}
     void setFieldReadOnly(bool readOnly) override;
