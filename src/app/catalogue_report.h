@@ -57,6 +57,18 @@ struct ReportKey {
 report::Layout catalogueLayout(const CatalogueHeading &heading, const QString &title,
                                bool landscape = false, const ReportKey &key = {});
 
+/// A list under its titles, which every page repeats; `cells` gives the texts of a row.
+template <typename Row, typename Cells>
+report::Document listReport(report::Layout layout, const ReportTable &table, const QList<Row> &rows,
+                            Cells cells) {
+    layout.place(table.titles());
+    layout.repeatOnNewPages(table.titles());
+    for (const Row &row : rows) {
+        layout.place(table.row(cells(row)));
+    }
+    return layout.finish();
+}
+
 /// A line that heads a group: a caption and, in bold, what it names.
 report::Band groupBand(const QString &caption, const QString &text, double indentMm = 0);
 

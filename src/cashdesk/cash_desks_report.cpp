@@ -23,7 +23,7 @@ report::Document layoutCashDesks(CatalogueHeading heading, const QString &ciudad
                                  const QList<CashDeskRow> &rows) {
     using report::Align;
     heading.linea = u"Campus "_s + ciudad;
-    report::Layout layout = catalogueLayout(heading, u"Datos Caja"_s);
+    const report::Layout layout = catalogueLayout(heading, u"Datos Caja"_s);
     const ReportTable table({{u"Caja"_s, 9, Align::Right},
                              {u"Nombre"_s, 0},
                              {u"Banco M.N."_s, 18, Align::Right},
@@ -35,13 +35,10 @@ report::Document layoutCashDesks(CatalogueHeading heading, const QString &ciudad
                              {u"Sistema Id"_s, 17, Align::Right},
                              {u"Campus"_s, 13, Align::Center}},
                             catalogueWidth());
-    layout.place(table.titles());
-    layout.repeatOnNewPages(table.titles());
-    for (const CashDeskRow &row : rows) {
-        layout.place(table.row({row.numCaja, row.nombre, row.bancomn, row.bancodll, row.serie,
-                                row.serien, row.tipoliza, row.progPol, row.sistemaid, row.campus}));
-    }
-    return layout.finish();
+    return listReport(layout, table, rows, [](const CashDeskRow &row) {
+        return QStringList{row.numCaja, row.nombre,   row.bancomn, row.bancodll,  row.serie,
+                           row.serien,  row.tipoliza, row.progPol, row.sistemaid, row.campus};
+    });
 }
 
 }  // namespace kaldo

@@ -11,13 +11,10 @@ report::Document layoutPatientClasses(const CatalogueHeading &heading,
         columns += {u"Beneficiario"_s, 80};
     }
     const ReportTable table(columns, catalogueWidth());
-    report::Layout layout = catalogueLayout(heading, u"Clasificación de Pacientes"_s);
-    layout.place(table.titles());
-    layout.repeatOnNewPages(table.titles());
-    for (const PatientClassLine &row : rows) {
-        layout.place(table.row({row.prestacion, row.descripcion, row.beneficiario}));
-    }
-    return layout.finish();
+    const report::Layout layout = catalogueLayout(heading, u"Clasificación de Pacientes"_s);
+    return listReport(layout, table, rows, [](const PatientClassLine &row) {
+        return QStringList{row.prestacion, row.descripcion, row.beneficiario};
+    });
 }
 
 }  // namespace kaldo

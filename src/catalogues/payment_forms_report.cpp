@@ -8,19 +8,15 @@ namespace kaldo {
 
 report::Document layoutPaymentForms(const CatalogueHeading &heading,
                                     const QList<PaymentFormRow> &rows, bool accounts) {
-    report::Layout layout = catalogueLayout(heading, u"Forma de Pago"_s);
+    const report::Layout layout = catalogueLayout(heading, u"Forma de Pago"_s);
     QList<ReportColumn> columns = {{u"Tipo"_s, 12, report::Align::Right}, {u"Descripción"_s, 0}};
     if (accounts) {
         columns += accountReportColumns();
     }
     const ReportTable table(columns, catalogueWidth());
-    layout.place(table.titles());
-    layout.repeatOnNewPages(table.titles());
-    for (const PaymentFormRow &row : rows) {
-        layout.place(table.row(QStringList{row.idtipo, row.tipopago} +
-                               (accounts ? row.cuentas : QStringList())));
-    }
-    return layout.finish();
+    return listReport(layout, table, rows, [accounts](const PaymentFormRow &row) {
+        return QStringList{row.idtipo, row.tipopago} + (accounts ? row.cuentas : QStringList());
+    });
 }
 
 }  // namespace kaldo

@@ -24,20 +24,16 @@ QList<SalesAreaRow> salesAreaRows(NamedQuery &areaventa) {
 
 report::Document layoutSalesAreas(const CatalogueHeading &heading, const QString &ciudad,
                                   const QList<SalesAreaRow> &rows, bool accounts) {
-    report::Layout layout = catalogueLayout(heading, u"Áreas de Servicio "_s + ciudad);
+    const report::Layout layout = catalogueLayout(heading, u"Áreas de Servicio "_s + ciudad);
     QList<ReportColumn> columns = {{u"Area"_s, 12, Align::Right}, {u"Descripción"_s, 0}};
     columns += accounts
                    ? accountReportColumns()
                    : QList<ReportColumn>{{u"Vigente"_s, 16, Align::Center}, {u"Dirigido a"_s, 72}};
     const ReportTable table(columns, catalogueWidth());
-    layout.place(table.titles());
-    layout.repeatOnNewPages(table.titles());
-    for (const SalesAreaRow &row : rows) {
+    return listReport(layout, table, rows, [accounts](const SalesAreaRow &row) {
         const QStringList state = {row.vigente, row.dirigidoa};
-        layout.place(
-            table.row(QStringList{row.tipoProd, row.descr} + (accounts ? row.cuentas : state)));
-    }
-    return layout.finish();
+        return QStringList{row.tipoProd, row.descr} + (accounts ? row.cuentas : state);
+    });
 }
 
 }  // namespace kaldo

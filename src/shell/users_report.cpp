@@ -21,7 +21,7 @@ QList<UserRow> userRows(NamedQuery &controlUsuarios) {
 
 report::Document layoutUsers(const CatalogueHeading &heading, const QList<UserRow> &rows) {
     using report::Align;
-    report::Layout layout = catalogueLayout(heading, u"Control de Usuarios"_s);
+    const report::Layout layout = catalogueLayout(heading, u"Control de Usuarios"_s);
     const ReportTable table({{u"Usuario"_s, 19},
                              {u"Nombre"_s, 0},
                              {u"Caja"_s, 10, Align::Right},
@@ -33,13 +33,10 @@ report::Document layoutUsers(const CatalogueHeading &heading, const QList<UserRo
                              {u"Usuario Id"_s, 18, Align::Right},
                              {u"Mpo"_s, 9, Align::Right}},
                             catalogueWidth());
-    layout.place(table.titles());
-    layout.repeatOnNewPages(table.titles());
-    for (const UserRow &row : rows) {
-        layout.place(table.row({row.usuario, row.nombre, row.caja, row.centro, row.turno,
-                                row.acceso, row.campus, row.origen, row.usuarioid, row.mpo}));
-    }
-    return layout.finish();
+    return listReport(layout, table, rows, [](const UserRow &row) {
+        return QStringList{row.usuario, row.nombre, row.caja,   row.centro,    row.turno,
+                           row.acceso,  row.campus, row.origen, row.usuarioid, row.mpo};
+    });
 }
 
 }  // namespace kaldo
