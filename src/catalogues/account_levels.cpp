@@ -1,10 +1,20 @@
 #include "catalogues/account_levels.h"
 
+#include "catalogues/lookups.h"
 #include "toolkit/forms/application.h"
 
 using namespace Qt::StringLiterals;
 
 namespace kaldo {
+
+void openSixthLevel(DMFinanzas &finanzas, const NamedQuery &row) {
+    Parameters account;
+    for (const auto &level :
+         {u"generoid"_s, u"grupoid"_s, u"cgrubroid"_s, u"cuentaid"_s, u"subctaid"_s}) {
+        account.append({level, row.value(level)});
+    }
+    finanzas.csubsubcta.open(account);
+}
 
 AccountLevels::AccountLevels(DMFinanzas &finanzas, NamedQuery &row)
     : levels_{{&finanzas.cgenero, u"GENEROID"_s, u"Genero"_s},
@@ -28,11 +38,7 @@ QList<GridColumn> AccountLevels::columns(bool shown) const {
         column.mask(CellMask::Integer)
             .editable()
             .strict()
-            .lookup({level.list,
-                     level.field,
-                     level.field,
-                     {{level.field, level.title, 8, CellMask::Integer},
-                      {u"DESCRIPCION"_s, u"Descripción"_s, 44}}});
+            .lookup(numbered(*level.list, level.field, level.title));
         columns += shown ? column : column.hidden();
     }
     return columns;

@@ -6,6 +6,9 @@
 
 namespace kaldo {
 
+/// Opens the sixth level, `csubsubcta`, for the account that a row's five levels make.
+void openSixthLevel(DMFinanzas &finanzas, const NamedQuery &row);
+
 /// The five levels of the chart of accounts as columns of a catalogue. Each is chosen from those
 /// that the matrix allows under the levels before it in the row.
 class AccountLevels {

@@ -1,5 +1,6 @@
 #include "catalogues/frm107_price_list.h"
 
+#include "catalogues/account_levels.h"
 #include "catalogues/bulk_work.h"
 #include "catalogues/item_code.h"
 #include "catalogues/lookups.h"
@@ -149,31 +150,20 @@ QList<GridColumn> FRM107::priceColumns() {
                        .editable()),
         ifAccounts(GridColumn(u"SUBSUBCTA"_s, u"Subsubcta"_s, 10)
                        .mask(CellMask::Integer)
-                       .lookup({&finanzas.csubsubcta,
-                                u"SUBSUBCTAID"_s,
-                                u"SUBSUBCTAID"_s,
-                                {{u"SUBSUBCTAID"_s, u"Subsubcta"_s, 10, CellMask::Integer},
-                                 {u"DESCRIPCION"_s, u"Descripción"_s, 44}}})
+                       .lookup(numbered(finanzas.csubsubcta, u"SUBSUBCTAID"_s, u"Subsubcta"_s))
                        .strict()
                        .editable()),
         ifAccounts(GridColumn(u"TIPODEIVA"_s, u"Iva"_s, 5)
                        .mask(CellMask::Integer)
-                       .lookup({&finanzas.tipodeiva,
-                                u"TIPODEIVA"_s,
-                                u"TIPODEIVA"_s,
-                                {{u"TIPODEIVA"_s, u"Iva"_s, 6, CellMask::Integer},
-                                 {u"DESCRIPCION"_s, u"Descripción"_s, 30}}})
+                       .lookup(numbered(finanzas.tipodeiva, u"TIPODEIVA"_s, u"Iva"_s))
                        .strict()
                        .editable()),
-        ifAccounts(GridColumn(u"CLASIFICACIONIVA"_s, u"Clasif. Iva"_s, 9)
-                       .mask(CellMask::Integer)
-                       .lookup({&finanzas.clasificacioniva,
-                                u"CLASIFICACIONID"_s,
-                                u"CLASIFICACIONID"_s,
-                                {{u"CLASIFICACIONID"_s, u"Clasif."_s, 8, CellMask::Integer},
-                                 {u"DESCRIPCION"_s, u"Descripción"_s, 30}}})
-                       .strict()
-                       .editable()),
+        ifAccounts(
+            GridColumn(u"CLASIFICACIONIVA"_s, u"Clasif. Iva"_s, 9)
+                .mask(CellMask::Integer)
+                .lookup(numbered(finanzas.clasificacioniva, u"CLASIFICACIONID"_s, u"Clasif."_s))
+                .strict()
+                .editable()),
         ifAccounts(GridColumn(u"CLAVEPRODSERV"_s, u"Clave Prod. Serv."_s, 14)
                        .mask(CellMask::Integer)
                        .editable()),
@@ -211,13 +201,7 @@ void FRM107::forgetArea() {
 }
 
 void FRM107::openSubsubcta() {
-    const NamedQuery &area = context().odonto.AreaVenta;
-    Parameters account;
-    for (const auto &level :
-         {u"generoid"_s, u"grupoid"_s, u"cgrubroid"_s, u"cuentaid"_s, u"subctaid"_s}) {
-        account.append({level, area.value(level)});
-    }
-    context().finanzas.csubsubcta.open(account);
+    openSixthLevel(context().finanzas, context().odonto.AreaVenta);
 }
 
 EnterResult FRM107::enterClave() {

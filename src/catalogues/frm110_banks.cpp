@@ -40,11 +40,7 @@ CatalogueRules FRM110::banks() {
         GridColumn(u"SUBSUBCTAID"_s, u"SubSubcta"_s, 8)
             .mask(CellMask::Integer)
             .editable()
-            .lookup({&finanzas.csubsubcta,
-                     u"SUBSUBCTAID"_s,
-                     u"SUBSUBCTAID"_s,
-                     {{u"SUBSUBCTAID"_s, u"SubSubcta"_s, 9, CellMask::Integer},
-                      {u"DESCRIPCION"_s, u"Descripción"_s, 44}}})
+            .lookup(numbered(finanzas.csubsubcta, u"SUBSUBCTAID"_s, u"SubSubcta"_s))
             .strict(),
         GridColumn(u"NOMENCLATURA"_s, u"Nomenclatura"_s, 16),
         GridColumn(u"DESCRIPCION"_s, u"Dedscripción"_s, 30).limit(250).upper().stretch().editable(),
@@ -121,13 +117,7 @@ void FRM110::openLists() {
 }
 
 void FRM110::openSubSubcta() {
-    const NamedQuery &bank = panel_->query();
-    Parameters account;
-    for (const auto &level :
-         {u"generoid"_s, u"grupoid"_s, u"cgrubroid"_s, u"cuentaid"_s, u"subctaid"_s}) {
-        account.append({level, bank.value(level)});
-    }
-    context().finanzas.csubsubcta.open(account);
+    openSixthLevel(context().finanzas, panel_->query());
 }
 
 void FRM110::openProgrammes() {

@@ -26,6 +26,13 @@ LookupSource salesAreas(NamedQuery &areas) {
         {{u"TIPO_PROD"_s, u"Area"_s, 8, CellMask::Integer}, {u"DESCR"_s, u"Descripción"_s, 44}}};
 }
 
+LookupSource numbered(NamedQuery &list, const QString &field, const QString &title) {
+    return {&list,
+            field,
+            field,
+            {{field, title, 10, CellMask::Integer}, {u"DESCRIPCION"_s, u"Descripción"_s, 44}}};
+}
+
 LookupSource campuses(NamedQuery &ctroAtencion3) {
     return {&ctroAtencion3, u"CIUDAD"_s, u"CIUDAD"_s, {{u"CIUDAD"_s, u"Ciudad"_s, 10}}};
 }

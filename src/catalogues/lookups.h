@@ -13,6 +13,8 @@ LookupSource programmes(NamedQuery &programas);
 LookupSource centres(NamedQuery &ctroAtencion);
 /// Sales areas, by `tipo_prod`.
 LookupSource salesAreas(NamedQuery &areas);
+/// Numbers with their `descripcion`, by the number: accounts, taxes.
+LookupSource numbered(NamedQuery &list, const QString &field, const QString &title);
 /// The campuses, by `ciudad`.
 LookupSource campuses(NamedQuery &ctroAtencion3);
 
