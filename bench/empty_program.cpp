@@ -14,7 +14,6 @@ int main(int argc, char **argv) {
         block += text;
     };
     add(isc_dpb_user_name, "SYSDBA");
-    add(isc_dpb_password, "brickwall");
     add(isc_dpb_lc_ctype, "UTF8");
     for (int at = 1; at < argc; ++at) {
         ISC_STATUS_ARRAY status;

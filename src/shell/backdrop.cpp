@@ -2,8 +2,8 @@
 
 #include "toolkit/forms/button.h"
 
-#include <QCoreApplication>
-#include <QImageReader>
+#include <QFileInfo>
+#include <QImage>
 #include <QPainter>
 
 namespace kaldo {
@@ -33,7 +33,7 @@ Backdrop::Backdrop(QWidget *parent)
 }
 
 void Backdrop::setPicture(const QString &file) {
-    file_ = QImageReader(file).canRead() ? file : QString();
+    file_ = QFileInfo(file).isFile() ? file : QString();
     stretched_ = QPixmap();
     if (!hasPicture()) {
         captionColour_ = kGroundText;
@@ -68,7 +68,8 @@ void Backdrop::paintEvent(QPaintEvent *) {
         paintGround(painter, area);
         paintMark(painter, area);
     }
-    if (captionVisible_) {
+    const bool toCome = hasPicture() && stretched_.isNull();
+    if (captionVisible_ && !toCome) {
         paintCaption(painter, area);
     }
 }
@@ -78,7 +79,7 @@ void Backdrop::paintPicture(QPainter &painter, const QRect &area) {
         rest_.start();
     }
     if (stretched_.isNull()) {
-        paintGround(painter, area);
+        painter.fillRect(area, kGroundBottom);
     } else {
         painter.drawPixmap(area, stretched_);
     }
@@ -119,12 +120,10 @@ void Backdrop::paintCaption(QPainter &painter, const QRect &area) {
     title.setPointSizeF(font().pointSizeF() * 1.8);
     title.setWeight(QFont::DemiBold);
     painter.setFont(title);
-    // The scheme's colours are made for its picture, which may be missing or still to come.
-    const bool onPicture = !stretched_.isNull();
-    painter.setPen(onPicture ? captionColour_ : kGroundText);
+    painter.setPen(captionColour_);
     painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, caption_);
     painter.setFont(font());
-    painter.setPen(onPicture ? linkColour_ : kGroundLink);
+    painter.setPen(linkColour_);
     painter.drawText(inner, Qt::AlignRight | Qt::AlignBottom, subtitle_);
 }
 

@@ -77,7 +77,7 @@ void FRM000::formCreate() {
     const QString stem =
         pictureStem(context_.ini.value(QStringLiteral("Ambiente"), QStringLiteral("skin"),
                                        QStringLiteral("C:\\KALDO\\Ini\\skinblue.dll")));
-    splashPicture_ = QPixmap(pictureFile(stem + QStringLiteral("_splash.png")));
+    splashPicture_ = pictureFile(stem + QStringLiteral("_splash.png"));
     if (!backdrop_->hasPicture()) {
         backdrop_->setPicture(pictureFile(stem + QStringLiteral(".png")));
         // What is written on a picture takes the colours of the scheme that it was drawn for.

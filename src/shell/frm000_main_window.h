@@ -74,8 +74,8 @@ public:
     /// Runs what has waited: once the splash no longer covers the boxes.
     void tellWhatWaits();
 
-    /// The picture of the splash that goes with the colour scheme; null where there is none.
-    const QPixmap &splashPicture() const { return splashPicture_; }
+    /// The file with the picture of the splash, which goes with the colour scheme.
+    const QString &splashPicture() const { return splashPicture_; }
 
     // Frame
     void openEntry(const QString &entry) override;
@@ -136,7 +136,7 @@ private:
     QWidget *Panel2_ = nullptr;
     class Button *noticeButton_ = nullptr;
     Notice notice_ = Notice::None;
-    QPixmap splashPicture_;
+    QString splashPicture_;
     QPointer<QMdiSubWindow> child_;
     QTimer clock_;
     QDateTime lastTick_;

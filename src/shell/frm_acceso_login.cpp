@@ -7,7 +7,7 @@
 #include "toolkit/core/text.h"
 #include "toolkit/forms/form.h"
 
-#include <QFile>
+#include <QPixmap>
 #include <QTimer>
 
 namespace kaldo {
@@ -81,10 +81,16 @@ void FRMAcceso::build() {
                      .escape()
                      .clicked([this] { BitBtn3Click(); })}),
         }));
-    const QString picture =
-        context().installation.map(QStringLiteral("C:/KALDO/Images/KALDO/user.png"));
-    const QIcon icon = QFile::exists(picture) ? QIcon(picture) : iconNamed(QStringLiteral("user"));
-    Image1_->setPixmap(icon.pixmap(QSize(kPicture, kPicture), devicePixelRatioF()));
+    const qreal ratio = devicePixelRatioF();
+    const QSize size(kPicture, kPicture);
+    QPixmap picture(context().installation.map(QStringLiteral("C:/KALDO/Images/KALDO/user.png")));
+    if (picture.isNull()) {
+        picture = iconNamed(QStringLiteral("user")).pixmap(size, ratio);
+    } else if (picture.size() != size * ratio) {
+        picture = picture.scaled(size * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+    picture.setDevicePixelRatio(ratio);
+    Image1_->setPixmap(picture);
 }
 
 void FRMAcceso::formCreate() {

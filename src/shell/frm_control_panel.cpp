@@ -49,10 +49,6 @@ FRMControlPanel::FRMControlPanel(Context &context, FRM000 &main)
 
 void FRMControlPanel::formCreate() {
     created_ = false;
-    context().local.Recibos.open();
-    context().local.Firebird.open();
-    context().local.Informix.open();
-    context().odonto.ControlExpediente.open({{QStringLiteral("campus"), QStringLiteral("000")}});
     context().options.load(context().ini);
     context().conexion.FBCtrclinicas.close();
     created_ = true;
@@ -110,11 +106,11 @@ void FRMControlPanel::showOptions() {
 
 void FRMControlPanel::showCounters() {
     NamedQuery &counter = context().odonto.ControlExpediente;
-    counter.reopen();
+    counter.open({{QStringLiteral("campus"), QStringLiteral("000")}});
     Contador_->setText(counter.text(QStringLiteral("num_expediente")));
     for (NamedQuery *query :
          {&context().local.Recibos, &context().local.Firebird, &context().local.Informix}) {
-        query->reopen();
+        query->open();
     }
     TotalRecibos_->setValue(context().local.Recibos.count());
 }

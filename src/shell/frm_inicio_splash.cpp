@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QScreen>
 
+#include <utility>
+
 namespace kaldo {
 
 namespace {
@@ -17,9 +19,9 @@ constexpr int kFoot = 228;
 
 }  // namespace
 
-FRMInicio::FRMInicio(const QPixmap &picture)
+FRMInicio::FRMInicio(const QString &file)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
-      picture_(picture) {
+      file_(file) {
     setObjectName(QStringLiteral("FRMInicio"));
     setAccessibleName(QStringLiteral("KALDO"));
     setFixedSize(kSize);
@@ -36,7 +38,14 @@ void FRMInicio::formCreate(IniFile &ini) {
     ini.setValue(QStringLiteral("Alert"), QStringLiteral("version"), version_);
 }
 
+void FRMInicio::readPicture() {
+    if (!std::exchange(read_, true)) {
+        picture_.load(file_, "PNG");
+    }
+}
+
 void FRMInicio::paintEvent(QPaintEvent *) {
+    readPicture();
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (picture_.isNull()) {

@@ -13,8 +13,8 @@ class FRMInicio final : public QWidget {
     Q_OBJECT
 
 public:
-    /// A null picture gives a drawn one.
-    explicit FRMInicio(const QPixmap &picture);
+    /// Where the file holds no picture, one is drawn.
+    explicit FRMInicio(const QString &file);
 
     /// Writes the version of the running program to the ini file and shows it.
     void formCreate(IniFile &ini);
@@ -23,8 +23,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void readPicture();
     void paintGround(QPainter &painter) const;
 
+    QString file_;
+    bool read_ = false;
     QPixmap picture_;
     QString version_;
 };

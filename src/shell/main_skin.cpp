@@ -1,5 +1,7 @@
 #include "shell/main_skin.h"
 
+#include "toolkit/forms/button.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPainter>
@@ -67,6 +69,15 @@ public:
             }
         }
         QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
+                       const QWidget *widget) const override {
+        // Every menu bar and tool bar asks for it, also those that have room for all they hold.
+        if (which == SP_ToolBarHorizontalExtensionButton) {
+            return iconNamed(QStringLiteral("more"));
+        }
+        return QProxyStyle::standardIcon(which, option, widget);
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption *option,

@@ -25,7 +25,7 @@ void checkLook(const QString &name, const QString &user, const QString &password
     station.installation.setIni("Sistema", "skinname", skin);
     station.installation.setIni("Ambiente", "skin", "C:\\KALDO\\Ini\\" + library);
     ASSERT_TRUE(station.start());
-    EXPECT_FALSE(station.window().splashPicture().isNull());
+    EXPECT_TRUE(QFileInfo::exists(station.window().splashPicture()));
     picture(station.program->splash(), name + "_splash");
     station.inDialog(
         station.login(), [] {},
@@ -70,7 +70,6 @@ TEST(Look, MissingPicturesLeaveAQuietGround) {
     station.installation.setIni("Sistema", "skinname", "KaldoBlue");
     QDir(station.installation.root() + "/Images").removeRecursively();
     ASSERT_TRUE(station.start());
-    EXPECT_TRUE(station.window().splashPicture().isNull());
     picture(station.program->splash(), "bare_splash");
     station.inDialog(
         station.login(), [] {}, [&] { station.typeUser("clinica", "cli"); });

@@ -121,7 +121,7 @@ void IniFile::setValue(const QString &section, const QString &key, const QString
         lines += u'[' + section + u']';
         lines += key + u'=' + clean;
     }
-    if (!together_) {
+    if (!together_ && lines != lines_) {
         write(lines);
     }
     lines_ = lines;

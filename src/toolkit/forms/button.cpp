@@ -1,5 +1,6 @@
 #include "toolkit/forms/button.h"
 
+#include "toolkit/forms/drawn_icon.h"
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/focus_keeper.h"
 
@@ -42,7 +43,7 @@ bool handleEnter(QAbstractButton *button, QKeyEvent *event) {
 QIcon iconNamed(const QString &name) {
     loadIcons();
     const QString path = QStringLiteral(":/icons/%1.svg").arg(name);
-    return QFile::exists(path) ? QIcon(path) : QIcon();
+    return QFile::exists(path) ? QIcon(new DrawnIcon(path)) : QIcon();
 }
 
 Button::Button(QWidget *parent) : QPushButton(parent) {
@@ -50,7 +51,6 @@ Button::Button(QWidget *parent) : QPushButton(parent) {
 }
 
 void Button::setIconName(const QString &name) {
-    // A new icon of the same drawing would fill the cache of pixmaps with one more copy.
     if (name != iconName_) {
         iconName_ = name;
         setIcon(iconNamed(name));
