@@ -44,7 +44,7 @@ int memoryChild() {
     station.logIn(QStringLiteral("cajero1"));
     NoteTypist cashier(station);
     for (int note = 1; note <= kMany; ++note) {
-        cashier.registerNote();
+        cashier.registerNote(kNoteKinds.at(static_cast<std::size_t>(note) % kNoteKinds.size()));
         if (note == kFew || note == kMany) {
             std::printf("%.3f\n", residentMemory());
         }

@@ -122,18 +122,22 @@ void NoteTypist::typeLine(const QString &clave) {
     expectFocus("AgregarRegistro");
 }
 
-void NoteTypist::payAndAccept(Timed *timed) {
+void NoteTypist::payAndAccept(Timed *timed, const std::function<void()> &beforeEnter) {
     expectFocus("CEdit4");
     enter(QStringLiteral("5000"));
     expectFocus("ImprimirRecibo");
     timed->typing = station_.recorder.take();
+    if (beforeEnter) {
+        beforeEnter();
+    }
     timed->milliseconds = milliseconds();
     QTest::keyClick(keyTarget(), Qt::Key_Return);
 }
 
-NoteTypist::Timed NoteTypist::registerNote() {
-    const double began = milliseconds();
-    if (++notes_ % kKinds == 1) {
+NoteTypist::Timed NoteTypist::registerNote(NoteKind kind,
+                                           const std::function<void()> &beforeEnter) {
+    ++notes_;
+    if (kind == NoteKind::Admission) {
         typeAdmission();
     } else {
         typeStudentNote();
@@ -146,7 +150,7 @@ NoteTypist::Timed NoteTypist::registerNote() {
     std::exception_ptr failure;
     QTimer::singleShot(0, &screen_, [&] {
         try {
-            payAndAccept(&timed);
+            payAndAccept(&timed, beforeEnter);
         } catch (...) {
             failure = std::current_exception();
             QApplication::closeAllWindows();
@@ -158,7 +162,6 @@ NoteTypist::Timed NoteTypist::registerNote() {
     if (failure) {
         std::rethrow_exception(failure);
     }
-    timed.typed = timed.milliseconds - began;
     timed.milliseconds = ended - timed.milliseconds;
     timed.registering = station_.recorder.take();
     if (station_.messages.shown() != boxes + 1) {

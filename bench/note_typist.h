@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <functional>
 #include <memory>
 
 #include "bench/bench_station.h"
@@ -9,6 +11,9 @@
 
 namespace kaldo::bench {
 
+enum class NoteKind { Admission, StudentNoteOfTwoLines };
+inline constexpr std::array kNoteKinds{NoteKind::Admission, NoteKind::StudentNoteOfTwoLines};
+
 /// A cashier at the payment note: types whole notes by key strokes, all the way through the
 /// payment dialog.
 class NoteTypist {
@@ -16,18 +21,15 @@ public:
     /// Shows the screen and gives it the focus.
     explicit NoteTypist(BenchStation &station);
 
-    static constexpr int kKinds = 2;
-
     struct Timed {
         double milliseconds = 0;  ///< from the Enter on "&Imprimir Recibo" to the fresh screen
         double repaint = 0;       ///< painting the fresh screen, after that
-        double typed = 0;         ///< how long the typing took
         Log typing;               ///< what was executed before the Enter
         Log registering;          ///< what was executed from then on
     };
 
-    /// The next kind of note in turn: an admission, a student's note of two lines.
-    Timed registerNote();
+    /// `beforeEnter` runs when all is typed, just before the Enter that accepts the payment.
+    Timed registerNote(NoteKind kind, const std::function<void()> &beforeEnter = {});
 
     /// Goes to the place of care of the adults' clinic, ready for the Enter that takes it and opens
     /// the price list.
@@ -41,7 +43,7 @@ private:
     void typeAdmission();
     void typeStudentNote();
     void typeLine(const QString &clave);
-    void payAndAccept(Timed *timed);
+    void payAndAccept(Timed *timed, const std::function<void()> &beforeEnter);
 
     BenchStation &station_;
     FRM401_3 formaPago_;

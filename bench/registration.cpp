@@ -1,5 +1,3 @@
-#include <thread>
-
 #include "bench/measurements.h"
 #include "bench/note_typist.h"
 #include "bench/private_server.h"
@@ -24,19 +22,10 @@ struct Installations {
     std::shared_ptr<TestInstallation> bare = std::make_shared<TestInstallation>();
 };
 
-/// The same note bare, at the pace of the cashier: what an engine does in the background while she
-/// types, it does on both sides.
-double replayed(BareClient &bare, const NoteTypist::Timed &note) {
-    bare.repeat(note.typing);
-    const auto log = bare.prepare(note.registering);
-    std::this_thread::sleep_for(std::chrono::duration<double, std::milli>(note.typed));
-    const double started = milliseconds();
-    bare.play(*log);
-    return milliseconds() - started;
-}
-
-/// Notes by the cashier and bare, turn by turn, each over databases in the same state. A run is a
-/// note of each kind, and tells the time of one.
+/// Notes by the cashier and bare, turn by turn, each over databases in the same state. Both begin
+/// at the moment when a cashier has typed a note: what a disk, an engine and a processor do slower
+/// after some milliseconds of another work, they do on both sides. A run is a note of each kind,
+/// and tells the time of one.
 Results measure(const Installations &installations, const QString &where, double bar) {
     BenchStation station(installations.own, installations.bare);
     station.logIn(QStringLiteral("cajero1"));
@@ -49,11 +38,19 @@ Results measure(const Installations &installations, const QString &where, double
         double own = 0;
         double other = 0;
         double repaint = 0;
-        for (int kind = 0; kind < NoteTypist::kKinds; ++kind) {
-            const NoteTypist::Timed note = cashier.registerNote();
-            other += replayed(bare, note) / NoteTypist::kKinds;
-            own += note.milliseconds / NoteTypist::kKinds;
-            repaint += note.repaint / NoteTypist::kKinds;
+        for (const NoteKind kind : kNoteKinds) {
+            const NoteTypist::Timed note = cashier.registerNote(kind);
+            own += note.milliseconds / kNoteKinds.size();
+            repaint += note.repaint / kNoteKinds.size();
+            bare.repeat(note.typing);
+            const auto log = bare.prepare(note.registering);
+            const NoteTypist::Timed next = cashier.registerNote(kind, [&] {
+                const double started = milliseconds();
+                bare.play(*log);
+                other += (milliseconds() - started) / kNoteKinds.size();
+            });
+            bare.repeat(next.typing);
+            bare.repeat(next.registering);
         }
         if (run >= kWarmUps) {
             ours.push_back(own);

@@ -20,9 +20,18 @@ Procedure::Procedure(const char *name, const char *routine, const QStringList &p
     }
 }
 
+namespace {
+
+/// Mostly they are spelled alike, and that is seen at once.
+bool sameName(const QString &one, const QString &other) {
+    return one == other || one.compare(other, Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
 Procedure &Procedure::set(const QString &parameter, const QVariant &value) {
     for (auto &[name, current] : values_) {
-        if (name.compare(parameter, Qt::CaseInsensitive) == 0) {
+        if (sameName(name, parameter)) {
             current = value;
             return *this;
         }
@@ -35,8 +44,7 @@ Procedure &Procedure::set(const Parameters &values) {
     // Given in the routine's order, as they mostly are, a hundred values need no search.
     qsizetype expected = 0;
     for (const auto &[name, value] : values) {
-        if (expected < values_.size() &&
-            values_.at(expected).first.compare(name, Qt::CaseInsensitive) == 0) {
+        if (expected < values_.size() && sameName(values_.at(expected).first, name)) {
             values_[expected].second = value;
         } else {
             set(name, value);

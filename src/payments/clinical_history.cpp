@@ -4,18 +4,26 @@
 
 namespace kaldo {
 
-Parameters emptyClinicalHistory(int folio) {
+namespace {
+
+Parameters withoutAnswers() {
     Parameters parameters;
     for (const ClinicalHistoryColumn &column : clinicalHistoryColumns()) {
-        const QString name = QString::fromLatin1(column.name);
         QVariant value;
-        if (name == QLatin1String("folio")) {
-            value = folio;
-        } else if (column.width > 0) {
+        if (column.width > 0) {
             value = column.width == 1 ? QStringLiteral("N") : QStringLiteral("");
         }
-        parameters.append({name, value});
+        parameters.append({QString::fromLatin1(column.name), value});
     }
+    return parameters;
+}
+
+}  // namespace
+
+Parameters emptyClinicalHistory(int folio) {
+    static const Parameters kEmpty = withoutAnswers();
+    Parameters parameters = kEmpty;
+    parameters.first().second = folio;
     return parameters;
 }
 

@@ -4,8 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QSet>
 #include <QStringDecoder>
 
+#include <optional>
 #include <stdexcept>
 
 namespace kaldo {
@@ -21,15 +23,17 @@ QString decode(QByteArray bytes) {
     return utf8.hasError() ? QString::fromLatin1(bytes) : text;
 }
 
-bool isSection(QStringView line, QStringView section) {
+/// What stands between the brackets of a section's line, in lower case; none for any other line.
+std::optional<QString> sectionName(QStringView line) {
     const QStringView trimmed = line.trimmed();
-    return trimmed.startsWith(u'[') && trimmed.endsWith(u']') &&
-           trimmed.mid(1, trimmed.size() - 2).trimmed().compare(section, Qt::CaseInsensitive) == 0;
+    if (!trimmed.startsWith(u'[') || !trimmed.endsWith(u']')) {
+        return std::nullopt;
+    }
+    return trimmed.mid(1, trimmed.size() - 2).trimmed().toString().toLower();
 }
 
-bool isAnySection(QStringView line) {
-    const QStringView trimmed = line.trimmed();
-    return trimmed.startsWith(u'[') && trimmed.endsWith(u']');
+QString placeOf(const QString &section, const QString &key) {
+    return section.toLower() + u'\n' + key.toLower();
 }
 
 }  // namespace
@@ -39,28 +43,43 @@ IniFile::IniFile(QString path) : path_(std::move(path)) {
     if (file.open(QIODevice::ReadOnly)) {
         QString text = decode(file.readAll());
         text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-        lines_ = text.split(u'\n');
-        if (!lines_.isEmpty() && lines_.last().isEmpty()) {
-            lines_.removeLast();
+        QStringList lines = text.split(u'\n');
+        if (!lines.isEmpty() && lines.last().isEmpty()) {
+            lines.removeLast();
+        }
+        changeLines(lines);
+    }
+}
+
+void IniFile::changeLines(const QStringList &lines) {
+    lines_ = lines;
+    places_.clear();
+    QSet<QString> sections;
+    QString section;
+    bool counts = false;  // only the first section of a name does
+    for (qsizetype at = 0; at < lines_.size(); ++at) {
+        const QStringView line(lines_.at(at));
+        if (const std::optional<QString> name = sectionName(line)) {
+            section = *name;
+            counts = !sections.contains(section);
+            sections.insert(section);
+            continue;
+        }
+        const qsizetype equals = line.indexOf(u'=');
+        if (!counts || equals <= 0 || line.trimmed().startsWith(u';')) {
+            continue;
+        }
+        const QString place = placeOf(section, line.left(equals).trimmed().toString());
+        if (!places_.contains(place)) {
+            places_.insert(place, at);
         }
     }
 }
 
 qsizetype IniFile::sectionLine(const QString &section) const {
+    const QString wanted = section.toLower();
     for (qsizetype at = 0; at < lines_.size(); ++at) {
-        if (isSection(lines_.at(at), section)) {
-            return at;
-        }
-    }
-    return -1;
-}
-
-qsizetype IniFile::keyLine(qsizetype sectionLine, const QString &key) const {
-    for (qsizetype at = sectionLine + 1; at < lines_.size() && !isAnySection(lines_.at(at)); ++at) {
-        const QStringView line(lines_.at(at));
-        const qsizetype equals = line.indexOf(u'=');
-        if (equals > 0 && !line.trimmed().startsWith(u';') &&
-            line.left(equals).trimmed().compare(key, Qt::CaseInsensitive) == 0) {
+        if (sectionName(lines_.at(at)) == wanted) {
             return at;
         }
     }
@@ -69,8 +88,7 @@ qsizetype IniFile::keyLine(qsizetype sectionLine, const QString &key) const {
 
 QString IniFile::value(const QString &section, const QString &key,
                        const QString &defaultValue) const {
-    const qsizetype start = sectionLine(section);
-    const qsizetype at = start < 0 ? -1 : keyLine(start, key);
+    const qsizetype at = places_.value(placeOf(section, key), -1);
     if (at < 0) {
         return defaultValue;
     }
@@ -101,13 +119,13 @@ void IniFile::setValue(const QString &section, const QString &key, const QString
     clean.replace(u'\n', u' ').replace(u'\r', u' ');
     QStringList lines = lines_;
     const qsizetype start = sectionLine(section);
-    const qsizetype at = start < 0 ? -1 : keyLine(start, key);
+    const qsizetype at = places_.value(placeOf(section, key), -1);
     if (at >= 0) {
         const QString &line = lines.at(at);
         lines[at] = line.left(line.indexOf(u'=') + 1) + clean;
     } else if (start >= 0) {
         qsizetype end = start + 1;
-        while (end < lines.size() && !isAnySection(lines.at(end))) {
+        while (end < lines.size() && !sectionName(lines.at(end))) {
             ++end;
         }
         while (end > start + 1 && lines.at(end - 1).trimmed().isEmpty()) {
@@ -124,7 +142,7 @@ void IniFile::setValue(const QString &section, const QString &key, const QString
     if (!together_ && lines != lines_) {
         write(lines);
     }
-    lines_ = lines;
+    changeLines(lines);
 }
 
 void IniFile::writeTogether(const std::function<void()> &call) {
@@ -134,7 +152,7 @@ void IniFile::writeTogether(const std::function<void()> &call) {
         call();
         write(lines_);
     } catch (...) {
-        lines_ = before;
+        changeLines(before);
         together_ = false;
         throw;
     }

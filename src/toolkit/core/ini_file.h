@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -39,11 +39,13 @@ public:
 
 private:
     qsizetype sectionLine(const QString &section) const;
-    qsizetype keyLine(qsizetype sectionLine, const QString &key) const;
     void write(const QStringList &lines) const;
+    void changeLines(const QStringList &lines);
 
     QString path_;
     QStringList lines_;
+    /// Where the line of a key stands, by section and key in lower case.
+    QHash<QString, qsizetype> places_;
     bool together_ = false;
 };
 
