@@ -90,8 +90,11 @@ QSize Backdrop::pictureSize() const {
 }
 
 void Backdrop::readPicture() {
+    // Of a picture with a palette scaling would give one of a coarser palette, full of dots.
     stretched_ = QPixmap::fromImage(
-        QImage(file_).scaled(pictureSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        QImage(file_)
+            .convertToFormat(QImage::Format_ARGB32_Premultiplied)
+            .scaled(pictureSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     if (stretched_.isNull()) {
         setPicture({});
     }

@@ -41,6 +41,13 @@ void checkLook(const QString &name, const QString &user, const QString &password
         << "it is read in the background";
     picture(&station.window(), name + "_main");
     EXPECT_EQ(backdrop->stretched().size(), backdrop->viewport()->size());
+    const QImage corner =
+        backdrop->stretched().toImage().copy(backdrop->stretched().width() - 20, 0, 20, 20);
+    EXPECT_EQ(corner, [&] {
+        QImage flat(corner.size(), corner.format());
+        flat.fill(corner.pixelColor(0, 0));
+        return flat;
+    }()) << "no dots where the picture has one colour";
     auto *group = child<QWidget>(&station.window(), "rateGroup");
     EXPECT_EQ(edgeColour(group->findChild<QLabel *>()), accent);
     station.window().openEntry("E1");

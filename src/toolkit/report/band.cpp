@@ -23,7 +23,9 @@ QImage atPrintSize(const QImage &image, const QSizeF &boxMm) {
     const QSize fitted = image.size().scaled(wanted, Qt::KeepAspectRatio);
     if (fitted.isEmpty() || fitted.width() >= image.width())
         return image;
-    return image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    // A picture with a palette would be scaled to one of a coarser palette, full of dots.
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+        .scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
