@@ -82,37 +82,6 @@ QImage reduced(const QImage &image, int apart) {
     return small;
 }
 
-/// The grain of a photograph or backdrop taken out, edges and letters left as they are: every
-/// pixel becomes the mean of those around it that look alike.
-QImage smoothed(const QImage &image) {
-    constexpr int kReach = 3;
-    constexpr int kAlike = 2400;
-    QImage result = image;
-    for (int y = 0; y < image.height(); ++y) {
-        auto *out = reinterpret_cast<QRgb *>(result.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb own = image.pixel(x, y);
-            int red = 0;
-            int green = 0;
-            int blue = 0;
-            int count = 0;
-            for (int v = qMax(0, y - kReach); v <= qMin(image.height() - 1, y + kReach); ++v) {
-                const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(v));
-                for (int u = qMax(0, x - kReach); u <= qMin(image.width() - 1, x + kReach); ++u) {
-                    if (distance(line[u], own) < kAlike) {
-                        red += qRed(line[u]);
-                        green += qGreen(line[u]);
-                        blue += qBlue(line[u]);
-                        ++count;
-                    }
-                }
-            }
-            out[x] = qRgb(red / count, green / count, blue / count);
-        }
-    }
-    return result;
-}
-
 /// As a PNG with as many colours as fit the size that a picture of the manual may have.
 QByteArray encoded(const QImage &picture) {
     constexpr int kLargest = 60 * 1024;
@@ -126,10 +95,9 @@ QByteArray encoded(const QImage &picture) {
         reduced(made, apart).save(&buffer, "PNG");
         return bytes;
     };
-    int apart = 60;
+    int apart = 8;
     QByteArray bytes = bytesOf(image, apart);
     for (; bytes.size() > kLargest; apart *= 2) {
-        image = smoothed(image);
         bytes = bytesOf(image, apart);
     }
     return bytes;
