@@ -95,7 +95,7 @@ QByteArray encoded(const QImage &picture) {
         reduced(made, apart).save(&buffer, "PNG");
         return bytes;
     };
-    int apart = 8;
+    int apart = 300;
     QByteArray bytes = bytesOf(image, apart);
     for (; bytes.size() > kLargest; apart *= 2) {
         bytes = bytesOf(image, apart);
