@@ -1,22 +1,19 @@
 #include "cashdesk/cash_desks_report.h"
 
+#include "data/query_rows.h"
+
 using namespace Qt::StringLiterals;
 
 namespace kaldo {
 
 QList<CashDeskRow> cashDeskRows(NamedQuery &datosCaja) {
-    QList<CashDeskRow> rows;
-    const int count = datosCaja.count();
-    for (int at = 0; at < count; ++at) {
-        const auto text = [&](const QString &field) {
-            return datosCaja.valueAt(at, field).toString();
-        };
-        rows += CashDeskRow{text(u"num_caja"_s), text(u"nombre"_s),   text(u"bancomn"_s),
-                            text(u"bancodll"_s), text(u"serie"_s),    text(u"serien"_s),
-                            text(u"tipoliza"_s), text(u"prog_pol"_s), text(u"sistemaid"_s),
-                            text(u"campus"_s)};
-    }
-    return rows;
+    return mapRows(datosCaja, [](const QueryRow &row) {
+        return CashDeskRow{row.text(u"num_caja"_s),  row.text(u"nombre"_s),
+                           row.text(u"bancomn"_s),   row.text(u"bancodll"_s),
+                           row.text(u"serie"_s),     row.text(u"serien"_s),
+                           row.text(u"tipoliza"_s),  row.text(u"prog_pol"_s),
+                           row.text(u"sistemaid"_s), row.text(u"campus"_s)};
+    });
 }
 
 report::Document layoutCashDesks(CatalogueHeading heading, const QString &ciudad,

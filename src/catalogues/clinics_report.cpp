@@ -1,6 +1,6 @@
 #include "catalogues/clinics_report.h"
 
-#include <QHash>
+#include "data/query_rows.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,30 +30,20 @@ report::Band areaHead(const ClinicRow &row) {
 }  // namespace
 
 QList<ClinicRow> clinicRows(NamedQuery &areaatencion, NamedQuery &areas) {
-    QHash<QString, QString> names;
-    for (int at = 0; at < areas.count(); ++at) {
-        names.insert(areas.valueAt(at, u"tipo_prod"_s).toString(),
-                     areas.valueAt(at, u"descr"_s).toString());
-    }
-    QList<ClinicRow> rows;
-    const int count = areaatencion.count();
-    for (int at = 0; at < count; ++at) {
-        const auto text = [&](const QString &field) {
-            return areaatencion.valueAt(at, field).toString();
-        };
+    const QHash<QString, QString> names = namesByCode(areas, u"tipo_prod"_s, u"descr"_s);
+    return mapRows(areaatencion, [&names](const QueryRow &from) {
         ClinicRow row;
-        row.centro = text(u"centro"_s);
-        row.centroDescr = text(u"descr_1"_s);
-        row.tipoProd = text(u"tipo_prod"_s);
+        row.centro = from.text(u"centro"_s);
+        row.centroDescr = from.text(u"descr_1"_s);
+        row.tipoProd = from.text(u"tipo_prod"_s);
         row.areaDescr = names.value(row.tipoProd, row.tipoProd);
-        row.area = text(u"area"_s);
-        row.descr = text(u"descr"_s);
-        row.prog = text(u"prog"_s);
-        row.tipoServ = text(u"tipo_serv"_s);
-        row.responsable = text(u"responsable"_s);
-        rows += row;
-    }
-    return rows;
+        row.area = from.text(u"area"_s);
+        row.descr = from.text(u"descr"_s);
+        row.prog = from.text(u"prog"_s);
+        row.tipoServ = from.text(u"tipo_serv"_s);
+        row.responsable = from.text(u"responsable"_s);
+        return row;
+    });
 }
 
 report::Document layoutClinics(const CatalogueHeading &heading, const QList<ClinicRow> &rows) {

@@ -4,6 +4,7 @@
 #include "catalogues/care_centres_report.h"
 #include "catalogues/lookups.h"
 #include "data/catalogue_texts.h"
+#include "data/query_rows.h"
 #include "toolkit/forms/form.h"
 
 using namespace Qt::StringLiterals;
@@ -181,15 +182,12 @@ void FRM100::toggleCounters() {
 bool FRM100::previewReport() {
     NamedQuery &centres = context().odonto.CtroAtencion;
     panel_->refresh();
-    QList<CareCentre> rows;
-    for (int row = 0; row < centres.count(); ++row) {
-        const auto text = [&](const char *field) {
-            return centres.valueAt(row, QString::fromLatin1(field)).toString();
-        };
-        rows +=
-            CareCentre{text("centro"),      text("descr"),     text("domicilio"), text("colonia"),
-                       text("responsable"), text("telefono1"), text("correoto"),  text("prog")};
-    }
+    const QList<CareCentre> rows = mapRows(centres, [](const QueryRow &row) {
+        return CareCentre{row.text(u"centro"_s),      row.text(u"descr"_s),
+                          row.text(u"domicilio"_s),   row.text(u"colonia"_s),
+                          row.text(u"responsable"_s), row.text(u"telefono1"_s),
+                          row.text(u"correoto"_s),    row.text(u"prog"_s)};
+    });
     previewCatalogue(
         context(), this, this,
         layoutCareCentres(catalogueHeading(context()), rows, options().ContabilidadGubernamental),

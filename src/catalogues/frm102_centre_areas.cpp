@@ -4,6 +4,7 @@
 #include "catalogues/centre_areas_report.h"
 #include "catalogues/lookups.h"
 #include "catalogues/two_lists.h"
+#include "data/query_rows.h"
 #include "toolkit/forms/form.h"
 
 using namespace Qt::StringLiterals;
@@ -54,14 +55,10 @@ void FRM102::chooseCentre() {
 bool FRM102::previewReport() {
     NamedQuery &offered = context().odonto.ServxCtroR;
     offered.open({{u"cd"_s, session().Origen.text()}});
-    const int count = offered.count();
-    QList<CentreArea> rows;
-    for (int row = 0; row < count; ++row) {
-        rows += CentreArea{offered.valueAt(row, u"centro"_s).toString(),
-                           offered.valueAt(row, u"descr"_s).toString(),
-                           offered.valueAt(row, u"tipo_prod"_s).toInt(),
-                           offered.valueAt(row, u"descr_1"_s).toString()};
-    }
+    const QList<CentreArea> rows = mapRows(offered, [](const QueryRow &row) {
+        return CentreArea{row.text(u"centro"_s), row.text(u"descr"_s),
+                          row.value(u"tipo_prod"_s).toInt(), row.text(u"descr_1"_s)};
+    });
     previewCatalogue(context(), this, this,
                      layoutCentreAreas(catalogueHeading(context()), session().Ciudad, rows),
                      windowTitle());

@@ -2,6 +2,7 @@
 
 #include "catalogues/patient_classes_report.h"
 #include "data/catalogue_texts.h"
+#include "data/query_rows.h"
 #include "toolkit/forms/form.h"
 
 using namespace Qt::StringLiterals;
@@ -89,14 +90,10 @@ bool FRM103::completeRow() {
 
 bool FRM103::previewReport() {
     panel_->refresh();
-    const NamedQuery &classes = panel_->query();
-    QList<PatientClassLine> rows;
-    const int count = panel_->query().count();
-    for (int row = 0; row < count; ++row) {
-        rows += PatientClassLine{classes.valueAt(row, u"prestacion"_s).toString(),
-                                 classes.valueAt(row, u"descripcion"_s).toString(),
-                                 classes.valueAt(row, u"Descrip"_s).toString()};
-    }
+    const QList<PatientClassLine> rows = mapRows(panel_->query(), [](const QueryRow &row) {
+        return PatientClassLine{row.text(u"prestacion"_s), row.text(u"descripcion"_s),
+                                row.text(u"Descrip"_s)};
+    });
     previewCatalogue(context(), this, this,
                      layoutPatientClasses(catalogueHeading(context()), rows,
                                           options().ContabilidadGubernamental),

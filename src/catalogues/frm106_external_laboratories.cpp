@@ -3,6 +3,7 @@
 #include "catalogues/external_laboratories_report.h"
 #include "catalogues/lookups.h"
 #include "data/catalogue_texts.h"
+#include "data/query_rows.h"
 #include "toolkit/core/text.h"
 #include "toolkit/forms/form.h"
 
@@ -184,17 +185,13 @@ bool FRM106::previewReport() {
     if (laboratories.isEmpty()) {
         return true;
     }
-    QList<ExternalLaboratory> rows;
-    const int count = laboratories.count();
-    for (int row = 0; row < count; ++row) {
-        const auto text = [&](const QString &field) {
-            return laboratories.valueAt(row, field).toString();
-        };
-        rows += ExternalLaboratory{text(u"subsubcta"_s),   text(u"descr"_s),  text(u"domicilio"_s),
-                                   text(u"colonia"_s),     text(u"rfc"_s),    text(u"telefono"_s),
-                                   text(u"responsable"_s), text(u"correo"_s), text(u"cp"_s),
-                                   text(u"prog"_s)};
-    }
+    const QList<ExternalLaboratory> rows = mapRows(laboratories, [](const QueryRow &row) {
+        return ExternalLaboratory{row.text(u"subsubcta"_s),   row.text(u"descr"_s),
+                                  row.text(u"domicilio"_s),   row.text(u"colonia"_s),
+                                  row.text(u"rfc"_s),         row.text(u"telefono"_s),
+                                  row.text(u"responsable"_s), row.text(u"correo"_s),
+                                  row.text(u"cp"_s),          row.text(u"prog"_s)};
+    });
     previewCatalogue(
         context(), this, this,
         layoutExternalLaboratories(catalogueHeading(context()), session().Ciudad, rows),

@@ -2,6 +2,7 @@
 
 #include "catalogues/payment_forms_report.h"
 #include "data/catalogue_texts.h"
+#include "data/query_rows.h"
 #include "toolkit/forms/form.h"
 
 using namespace Qt::StringLiterals;
@@ -77,13 +78,10 @@ EnterResult FRM108::enterSubcta() {
 bool FRM108::previewReport() {
     NamedQuery &forms = context().odonto.TipoForma;
     panel_->refresh();
-    QList<PaymentFormRow> rows;
-    const int count = forms.count();
-    for (int row = 0; row < count; ++row) {
-        rows +=
-            PaymentFormRow{forms.valueAt(row, u"idtipo"_s).toString(),
-                           forms.valueAt(row, u"tipopago"_s).toString(), accountCells(forms, row)};
-    }
+    const QList<PaymentFormRow> rows = mapRows(forms, [&forms](const QueryRow &row) {
+        return PaymentFormRow{row.text(u"idtipo"_s), row.text(u"tipopago"_s),
+                              accountCells(forms, row.index())};
+    });
     previewCatalogue(
         context(), this, this,
         layoutPaymentForms(catalogueHeading(context()), rows, options().ContabilidadGubernamental),

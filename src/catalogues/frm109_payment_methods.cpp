@@ -3,6 +3,7 @@
 #include "catalogues/frm103_patient_classes.h"
 #include "catalogues/payment_methods_report.h"
 #include "data/catalogue_texts.h"
+#include "data/query_rows.h"
 #include "toolkit/forms/form.h"
 
 using namespace Qt::StringLiterals;
@@ -73,14 +74,10 @@ EnterResult FRM109::enterDescripcion() {
 }
 
 bool FRM109::previewReport() {
-    const NamedQuery &methods = panel_->query();
     panel_->refresh();
-    QList<PaymentMethod> rows;
-    const int count = panel_->query().count();
-    for (int row = 0; row < count; ++row) {
-        rows += PaymentMethod{methods.valueAt(row, u"clave"_s).toString(),
-                              methods.valueAt(row, u"descripcion"_s).toString()};
-    }
+    const QList<PaymentMethod> rows = mapRows(panel_->query(), [](const QueryRow &row) {
+        return PaymentMethod{row.text(u"clave"_s), row.text(u"descripcion"_s)};
+    });
     previewCatalogue(context(), this, this, layoutPaymentMethods(catalogueHeading(context()), rows),
                      windowTitle());
     return true;

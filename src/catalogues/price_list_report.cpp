@@ -1,6 +1,6 @@
 #include "catalogues/price_list_report.h"
 
-#include <QHash>
+#include "data/query_rows.h"
 
 #include "toolkit/core/money.h"
 
@@ -44,34 +44,24 @@ QStringList priceCells(const PriceListRow &row) {
 }  // namespace
 
 QList<PriceListRow> priceListRows(NamedQuery &listaprecios, NamedQuery &umedida) {
-    QHash<QString, QString> units;
-    for (int row = 0; row < umedida.count(); ++row) {
-        units.insert(umedida.valueAt(row, u"unimed"_s).toString(),
-                     umedida.valueAt(row, u"descr"_s).toString());
-    }
-    QList<PriceListRow> rows;
-    const int count = listaprecios.count();
-    for (int at = 0; at < count; ++at) {
-        const auto text = [&](const QString &field) {
-            return listaprecios.valueAt(at, field).toString();
-        };
+    const QHash<QString, QString> units = namesByCode(umedida, u"unimed"_s, u"descr"_s);
+    return mapRows(listaprecios, [&units](const QueryRow &from) {
         PriceListRow row;
-        row.tipoProd = text(u"tipo_prod"_s).toInt();
-        row.area = text(u"descr"_s);
-        row.cveProd = text(u"cve_prod"_s);
-        row.descr = text(u"descr_1"_s);
-        row.unidad = units.value(text(u"unimed"_s));
-        row.vigente = text(u"vigente"_s);
-        row.menudeo = listaprecios.valueAt(at, u"menudeo"_s).toDouble();
-        row.prog = text(u"prog"_s);
-        row.subsubcta = text(u"subsubcta"_s);
-        row.tipodeiva = text(u"tipodeiva"_s);
-        row.clasificacioniva = text(u"clasificacioniva"_s);
-        row.nomenclatura = text(u"nomenclatura"_s);
-        row.claveprodserv = text(u"claveprodserv"_s);
-        rows += row;
-    }
-    return rows;
+        row.tipoProd = from.value(u"tipo_prod"_s).toInt();
+        row.area = from.text(u"descr"_s);
+        row.cveProd = from.text(u"cve_prod"_s);
+        row.descr = from.text(u"descr_1"_s);
+        row.unidad = units.value(from.text(u"unimed"_s));
+        row.vigente = from.text(u"vigente"_s);
+        row.menudeo = from.value(u"menudeo"_s).toDouble();
+        row.prog = from.text(u"prog"_s);
+        row.subsubcta = from.text(u"subsubcta"_s);
+        row.tipodeiva = from.text(u"tipodeiva"_s);
+        row.clasificacioniva = from.text(u"clasificacioniva"_s);
+        row.nomenclatura = from.text(u"nomenclatura"_s);
+        row.claveprodserv = from.text(u"claveprodserv"_s);
+        return row;
+    });
 }
 
 report::Document layoutPriceList(const CatalogueHeading &heading, const QString &ciudad,

@@ -1,5 +1,7 @@
 #include "catalogues/service_classes_report.h"
 
+#include "data/query_rows.h"
+
 #include <numeric>
 
 using namespace Qt::StringLiterals;
@@ -67,28 +69,22 @@ Band classLine(const ServiceClassLine &row) {
 }  // namespace
 
 QList<ServiceClassLine> serviceClassLines(NamedQuery &clasifServiciosR) {
-    QList<ServiceClassLine> lines;
-    const int count = clasifServiciosR.count();
-    for (int at = 0; at < count; ++at) {
-        const auto text = [&](const QString &field) {
-            return clasifServiciosR.valueAt(at, field).toString();
-        };
+    return mapRows(clasifServiciosR, [](const QueryRow &from) {
         ServiceClassLine line;
-        line.centro = text(u"centro"_s);
-        line.centroDescr = text(u"descr_1"_s);
-        line.tipoProd = text(u"tipo_prod"_s);
-        line.areaDescr = text(u"descr"_s);
-        line.edadMin = text(u"edadmin"_s);
-        line.edadMax = text(u"edadmax"_s);
-        line.aplicaAnticipo = text(u"aplica_anticipo"_s);
-        line.aplicaDesc = text(u"aplicadesc"_s);
-        line.requiereEdad = text(u"requiere_edad"_s);
-        line.prestacion = text(u"prestacion"_s).toInt();
-        line.prestacionDescr = text(u"descripcion"_s);
-        line.porcent = text(u"porcent"_s);
-        lines += line;
-    }
-    return lines;
+        line.centro = from.text(u"centro"_s);
+        line.centroDescr = from.text(u"descr_1"_s);
+        line.tipoProd = from.text(u"tipo_prod"_s);
+        line.areaDescr = from.text(u"descr"_s);
+        line.edadMin = from.text(u"edadmin"_s);
+        line.edadMax = from.text(u"edadmax"_s);
+        line.aplicaAnticipo = from.text(u"aplica_anticipo"_s);
+        line.aplicaDesc = from.text(u"aplicadesc"_s);
+        line.requiereEdad = from.text(u"requiere_edad"_s);
+        line.prestacion = from.value(u"prestacion"_s).toInt();
+        line.prestacionDescr = from.text(u"descripcion"_s);
+        line.porcent = from.text(u"porcent"_s);
+        return line;
+    });
 }
 
 report::Document layoutServiceClasses(const CatalogueHeading &heading,

@@ -1,22 +1,18 @@
 #include "shell/users_report.h"
 
+#include "data/query_rows.h"
+
 using namespace Qt::StringLiterals;
 
 namespace kaldo {
 
 QList<UserRow> userRows(NamedQuery &controlUsuarios) {
-    QList<UserRow> rows;
-    const int count = controlUsuarios.count();
-    for (int at = 0; at < count; ++at) {
-        const auto text = [&](const QString &field) {
-            return controlUsuarios.valueAt(at, field).toString();
-        };
-        rows +=
-            UserRow{text(u"usuario"_s),   text(u"nombre"_s), text(u"num_caja"_s), text(u"centro"_s),
-                    text(u"turno"_s),     text(u"acceso"_s), text(u"campus"_s),   text(u"origen"_s),
-                    text(u"usuarioid"_s), text(u"mpo"_s)};
-    }
-    return rows;
+    return mapRows(controlUsuarios, [](const QueryRow &row) {
+        return UserRow{row.text(u"usuario"_s), row.text(u"nombre"_s), row.text(u"num_caja"_s),
+                       row.text(u"centro"_s),  row.text(u"turno"_s),  row.text(u"acceso"_s),
+                       row.text(u"campus"_s),  row.text(u"origen"_s), row.text(u"usuarioid"_s),
+                       row.text(u"mpo"_s)};
+    });
 }
 
 report::Document layoutUsers(const CatalogueHeading &heading, const QList<UserRow> &rows) {
