@@ -1,7 +1,6 @@
 #include "catalogues/price_list_report.h"
 
 #include "data/query_rows.h"
-
 #include "toolkit/core/money.h"
 
 using namespace Qt::StringLiterals;

@@ -230,10 +230,6 @@ QString MaskedField::digits() const {
     return digits;
 }
 
-bool MaskedField::isComplete() const {
-    return !digits().isEmpty() && digits().size() == mask_.count(QLatin1Char(' '));
-}
-
 QString MaskedField::maskedText() const {
     return digits().isEmpty() ? QString() : text();
 }

@@ -106,7 +106,6 @@ public:
     void setMask(const QString &mask);
     /// The digits alone.
     QString digits() const;
-    bool isComplete() const;
     /// The masked text, or empty when no digit stands.
     QString maskedText() const;
     /// A text that does not fit the mask, from an older record, stands as it is until it is edited.
