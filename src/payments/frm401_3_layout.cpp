@@ -52,13 +52,7 @@ void alignLabels(QWidget *group) {
 
 form::Item FRM401_3::tenderItems() {
     using namespace form;
-    const auto blankZero = [this](MoneyField *const *box) {
-        return [box] {
-            if ((*box)->value() == 0) {
-                (*box)->setBlank();
-            }
-        };
-    };
+    const auto arrive = [](MoneyField *const *box) { return [box] { llegarAImporte(*box); }; };
     const auto leave = [this] { salirDeImporte(); };
     return column({
         radio(&RadioGroup1_, "RadioGroup1", "Tipo de Pago")
@@ -78,16 +72,16 @@ form::Item FRM401_3::tenderItems() {
                  .enter([this] { enterTipoDeTarjeta(); })}),
         text(&Edit12_, "Edit12", "4 Ultimos digitos").hidden().enter([this] { enterEdit12(); }),
         row({tender(&CEdit3_, "CEdit3", "Dolares")
-                 .arrive(blankZero(&CEdit3_))
+                 .arrive(arrive(&CEdit3_))
                  .enter([this] { enterDolares(); })
                  .leave(leave),
              label("Tipo de Cambio:"), label(&LabelTipoCambio_, "LabelTipoCambio").bold()}),
         tender(&CEdit4_, "CEdit4", "Pesos")
-            .arrive(blankZero(&CEdit4_))
+            .arrive(arrive(&CEdit4_))
             .enter([this] { enterPesos(); })
             .leave(leave),
         tender(&CEdit5_, "CEdit5", "Cheque")
-            .arrive(blankZero(&CEdit5_))
+            .arrive(arrive(&CEdit5_))
             .enter([this] { Totales(); })
             .leave(leave),
     });

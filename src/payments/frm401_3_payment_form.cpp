@@ -102,6 +102,10 @@ void FRM401_3::enableTenders() {
 }
 
 void FRM401_3::acceptable(bool enabled) {
+    if (!enabled && ImprimirRecibo_->hasFocus()) {
+        // Not on to the button that closes the window.
+        moveFocus(payment_.tipoDePago == PaymentKind::ChequeMN ? CEdit5_ : CEdit4_);
+    }
     ImprimirRecibo_->setEnabled(enabled && ready_);
 }
 
@@ -116,9 +120,14 @@ void FRM401_3::readBoxes() {
 }
 
 void FRM401_3::Totales() {
+    const double before = payment_.subtotal;
     readBoxes();
     recomputeTotals(&payment_);
     showTotals();
+    if (payment_.subtotal != before) {
+        unseen_ = true;
+        QTimer::singleShot(0, this, [this] { unseen_ = false; });
+    }
     acceptable(nothingMissing(payment_));
     if (ImprimirRecibo_->isEnabled()) {
         moveFocus(ImprimirRecibo_);
@@ -141,11 +150,17 @@ void FRM401_3::ValidaTarjeta() {
     }
 }
 
+/// A box at zero is blank for typing. A text that is no amount stays, to be mended.
+void FRM401_3::llegarAImporte(MoneyField *box) {
+    double amount = 0;
+    if (parseMoney(box->text(), &amount) && amount == 0) {
+        box->setBlank();
+    }
+}
+
 void FRM401_3::llegarATarjeta() {
     acceptable(false);
-    if (CEdit2_->value() == 0) {
-        CEdit2_->setBlank();
-    }
+    llegarAImporte(CEdit2_);
 }
 
 void FRM401_3::teclearTarjeta(double importe) {
@@ -253,9 +268,8 @@ void FRM401_3::imprimirRecibo() {
     if (!commitFocused()) {
         return;
     }
-    const double seen = payment_.subtotal;
     Totales();
-    if (payment_.subtotal != seen) {
+    if (unseen_) {
         return;  // pressed from a box by its letter: the new totals are to be seen first
     }
     if (ready_ && isEnough(payment_)) {

@@ -52,6 +52,7 @@ private:
     void RadioGroup1Click(PaymentKind kind);
     void preguntarAnticipo();
     void ValidaTarjeta();
+    static void llegarAImporte(MoneyField *box);
     void llegarATarjeta();
     void teclearTarjeta(double importe);
     void enterTarjeta();
@@ -69,7 +70,8 @@ private:
     ReceiptPrinter receipt_;
     NoteDraft draft_;
     Payment payment_;
-    bool ready_ = false;  ///< the rate is known and the amounts are this note's
+    bool ready_ = false;   ///< the rate is known and the amounts are this note's
+    bool unseen_ = false;  ///< the totals changed at this very stroke
 
     QGroupBox *GroupBox1_ = nullptr;
     QGroupBox *GroupBox2_ = nullptr;

@@ -259,6 +259,19 @@ TEST_F(PaymentForm, TheLetterOfTheButtonShowsNewTotalsBeforeItAccepts) {
         EXPECT_TRUE(form.isVisible());
         EXPECT_FALSE(canAccept());
         EXPECT_EQ(shown("CEdit9"), "$250.00");
+        EXPECT_EQ(focused(), "CEdit4");
+
+        // Nor is a change taken unseen where there was enough already.
+        typeText("400");
+        press(Qt::Key_Return);
+        press(Qt::Key_Tab, Qt::ShiftModifier);
+        press(Qt::Key_A, Qt::ControlModifier);
+        typeText("600");
+        press(Qt::Key_I, Qt::AltModifier);
+        QTest::qWait(200);
+        ASSERT_TRUE(form.isVisible());
+        EXPECT_EQ(shown("CEdit10"), "$250.00");
+        EXPECT_EQ(focused(), "ImprimirRecibo");
     });
     EXPECT_FALSE(payment.confirmado);
 }
@@ -278,6 +291,7 @@ TEST_F(PaymentForm, WhatIsNoAmountStaysInItsBox) {
             EXPECT_FALSE(canAccept()) << text;
             press(Qt::Key_Tab, Qt::ShiftModifier);
             EXPECT_EQ(focused(), "CEdit4") << text;
+            EXPECT_EQ(shown("CEdit4"), text);
         }
         press(Qt::Key_A, Qt::ControlModifier);
         typeText("999,999,999.99");
