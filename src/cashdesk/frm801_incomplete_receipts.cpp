@@ -33,21 +33,27 @@ void FRM801::build() {
 }
 
 void FRM801::activated() {
+    Max_.reset();
+    UltimoFolio_->clear();
     NamedQuery &ultima = context().caja.UltimaNota;
     ultima.open({{QStringLiteral("caja"), session().NumCaja}});
     Max_ = ultima.value(QStringLiteral("max")).toLongLong();
-    UltimoFolio_->setText(QString::number(Max_));
+    UltimoFolio_->setText(QString::number(*Max_));
 }
 
 void FRM801::procesarVerificacion() {
+    if (!Max_) {
+        // Never by the number of an earlier day: it would take a sound note for the last one.
+        activated();
+    }
     NamedQuery &caja = context().caja.DatosCaja1;
     caja.open({{QStringLiteral("caja"), session().NumCaja}});
     const qint64 siguiente = caja.value(QStringLiteral("nota_vta")).toLongLong();
-    if (siguiente == Max_ + 1) {
+    if (siguiente == *Max_ + 1) {
         messages().information(
             QStringLiteral("La información se encuentra registrada correctamente"),
             QStringLiteral("Información"));
-    } else if (siguiente == Max_) {
+    } else if (siguiente == *Max_) {
         borrarUltimaNota();
     } else {
         corregirConsecutivo();
@@ -56,7 +62,7 @@ void FRM801::procesarVerificacion() {
 
 void FRM801::corregirConsecutivo() {
     context().caja.UDatosCaja.execute(
-        {{QStringLiteral("nota"), Max_ + 1}, {QStringLiteral("caja"), session().NumCaja}});
+        {{QStringLiteral("nota"), *Max_ + 1}, {QStringLiteral("caja"), session().NumCaja}});
     messages().information(
         QStringLiteral("Se corrigió el consecutivo de notas, vuelva a intentar"));
 }
@@ -65,7 +71,7 @@ void FRM801::borrarUltimaNota() {
     DMIngresosCaja &caja = context().caja;
     DMOdonto &odonto = context().odonto;
     const Parameters note{{QStringLiteral("num_caja"), session().NumCaja},
-                          {QStringLiteral("nota_vta"), Max_}};
+                          {QStringLiteral("nota_vta"), *Max_}};
     caja.RegistroVtas.open(note);
     if (caja.RegistroVtas.isEmpty() || caja.RegistroVtas.integer(QStringLiteral("polizaid")) > 0) {
         return;
@@ -77,7 +83,7 @@ void FRM801::borrarUltimaNota() {
     caja.BorrarDetalleVtas.execute(note);
     if (servicio == QLatin1String("ADMISION")) {
         odonto.AdmisionNota.open(
-            {{QStringLiteral("caja"), session().NumCaja}, {QStringLiteral("nota"), Max_}});
+            {{QStringLiteral("caja"), session().NumCaja}, {QStringLiteral("nota"), *Max_}});
         odonto.BorrarAdmision.execute(noteOfCampus);
     }
     if (servicio == QLatin1String("APERTURA DE EXPEDIENTE")) {
@@ -90,7 +96,7 @@ void FRM801::borrarUltimaNota() {
     messages().information(QStringLiteral(
         "La última nota se encontró registrada de manera incompleta, vuelva a captarla"));
     caja.FolioNota.execute(
-        {{QStringLiteral("nota"), Max_}, {QStringLiteral("caja"), session().NumCaja}});
+        {{QStringLiteral("nota"), *Max_}, {QStringLiteral("caja"), session().NumCaja}});
     activated();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "app/screen.h"
 
 class QLabel;
@@ -29,8 +31,9 @@ private:
 
     QLabel *UltimoFolio_ = nullptr;
     Button *Procesar_ = nullptr;
-    /// Highest note of the desk, as it was when the screen came to the front.
-    qint64 Max_ = 0;
+    /// Highest note of the desk, as it was when the screen came to the front; unset where it
+    /// couldn't be read.
+    std::optional<qint64> Max_;
 };
 
 }  // namespace kaldo

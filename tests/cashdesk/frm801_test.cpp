@@ -19,16 +19,16 @@ const QString kCounter = "Se corrigió el consecutivo de notas, vuelva a intenta
 const QString kRemoved =
     "La última nota se encontró registrada de manera incompleta, vuelva a captarla";
 
-/// Fails one statement once, by its name.
+/// Fails one statement once, by its name: a read at once, a write at its commit.
 class FailOnce final : public Seam {
 public:
     explicit FailOnce(QString statement) : statement_(std::move(statement)) {}
-    void beforeCommit(const Execution &execution) override {
-        if (!failed_ && execution.name == statement_) {
-            failed_ = true;
-            throw DatabaseError("fallo de prueba", {});
+    void beforeExecution(const Execution &execution) override {
+        if (!execution.writes) {
+            fail(execution);
         }
     }
+    void beforeCommit(const Execution &execution) override { fail(execution); }
     void afterExecution(const Execution &execution) override {
         if (execution.writes) {
             written += execution.name;
@@ -38,6 +38,13 @@ public:
     QStringList written;
 
 private:
+    void fail(const Execution &execution) {
+        if (!failed_ && execution.name == statement_) {
+            failed_ = true;
+            throw DatabaseError("fallo de prueba", {});
+        }
+    }
+
     QString statement_;
     bool failed_ = false;
 };
@@ -277,6 +284,23 @@ TEST_F(FRM801Test, TheNoteIsTheOneOfTheActivation) {
     open();
     process();
     EXPECT_EQ(rowsOfNote(2), 0);
+}
+
+TEST_F(FRM801Test, ANumberThatCouldNotBeReadIsReadBeforeAnythingIsRepaired) {
+    registerNote(1, "OTROS SERVICIOS");
+    setCounter(2);
+    open();
+    registerNote(2, "OTROS SERVICIOS");
+    setCounter(3);
+    FailOnce seam("UltimaNota");
+    station.conexion.setSeam(&seam);
+    EXPECT_THROW(dialog.activated(), DatabaseError);
+    station.conexion.setSeam(nullptr);
+    EXPECT_EQ(shownFolio(), "");
+    station.messages.expectInformation(kSound);
+    process();
+    EXPECT_EQ(shownFolio(), "2");
+    EXPECT_EQ(counter(), 3);
 }
 
 TEST_F(FRM801Test, TheOtherBranchLeavesFinanceAlone) {
