@@ -6,10 +6,8 @@ bool countsInCut(const QString &tipoVta) {
     return tipoVta == QLatin1String("CONTADO");
 }
 
-CutTotals cutTotals(int numCaja, const QString &usuario, const PaymentSums &sums,
-                    const CutBalance &balance) {
+CutTotals cutTotals(const QString &usuario, const PaymentSums &sums, const CutBalance &balance) {
     CutTotals totals;
-    totals.num_caja = numCaja;
     totals.usuario = usuario;
     totals.sumapesos = sums.pesos;
     totals.sumadolares = sums.dolares;

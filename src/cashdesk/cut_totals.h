@@ -33,9 +33,8 @@ struct PaymentSums {
     double complementaria = 0;
 };
 
-/// A row of `totales`, by its columns.
+/// A row of `totales`, by its columns but the desk.
 struct CutTotals {
-    int num_caja = 0;
     QString usuario;
     double sumapesos = 0;
     double sumadolares = 0;
@@ -53,7 +52,6 @@ struct CutTotals {
 
 /// The row of one cut. `sumatodo` is the balance and not a sum over the forms of payment: the two
 /// are not reconciled.
-CutTotals cutTotals(int numCaja, const QString &usuario, const PaymentSums &sums,
-                    const CutBalance &balance);
+CutTotals cutTotals(const QString &usuario, const PaymentSums &sums, const CutBalance &balance);
 
 }  // namespace kaldo

@@ -131,6 +131,9 @@ void FRM405::cerrarTurno() {
 }
 
 void FRM405::salirFecha() {
+    if (!FechaCorte_->date().isValid()) {
+        FechaCorte_->setDate(context().clock.today());
+    }
     if (session().Acceso.text() == QLatin1String("CA")) {
         CajaCorte_ = session().NumCaja;
         UsuarioCorte_ = session().Usuario;
@@ -150,6 +153,7 @@ void FRM405::confirmarFecha() {
 
 void FRM405::revisarMovimientos() {
     fechaCorte_ = FechaCorte_->date();
+    notaMin_ = notaMax_ = 0;
     NamedQuery &range = context().caja.Qry405;
     range.open({{QStringLiteral("fecha"), fechaCorte_},
                 {QStringLiteral("caja"), CajaCorte_},
@@ -168,8 +172,8 @@ void FRM405::revisarMovimientos() {
 }
 
 void FRM405::generar() {
-    if (FechaCorte_->hasFocus()) {
-        // By its shortcut the button is pressed without leaving the date.
+    if (FechaCorte_->date() != fechaCorte_) {
+        // The date that was typed has not been heard as left, or no shift was chosen for it.
         if (!FechaCorte_->commit()) {
             return;
         }
@@ -177,6 +181,7 @@ void FRM405::generar() {
         if (!Generar_->isEnabled()) {
             return;
         }
+        fechaCorte_ = FechaCorte_->date();
     }
     SaldoFinal_ = CutBalance();
     if (notaMax_ == 0) {
@@ -267,8 +272,7 @@ void FRM405::Totales() {
     caja.Qry405_4.open({{QStringLiteral("caja"), numCaja},
                         {QStringLiteral("fecha"), fechaCorte_},
                         {QStringLiteral("usr"), UsuarioCorte_.text()}});
-    const CutTotals totals =
-        cutTotals(numCaja.toInt(), UsuarioCorte_, paymentSums(caja.Qry405_4), SaldoFinal_);
+    const CutTotals totals = cutTotals(UsuarioCorte_, paymentSums(caja.Qry405_4), SaldoFinal_);
     NamedQuery &row = caja.Totales;
     row.openToAppend();
     row.append();

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <QTest>
+
 #include <memory>
-#include <optional>
 
 #include "data/database_error.h"
 #include "tests/cashdesk/registered_notes.h"
@@ -287,7 +287,7 @@ TEST_F(FRM405Test, TheFirstEmptyAnswerIsSilentEveryLaterOneIsTold) {
     EXPECT_EQ(labels(), "5 EFECTIVO");
 }
 
-TEST_F(FRM405Test, ADateIsCheckedBeforeTheShortcutCuts) {
+TEST_F(FRM405Test, ADateIsCheckedBeforeItIsCut) {
     store(station.clinic(), of(1, "cajero1"), {.nota = 5, .importe = 80, .pesos = 80});
     store(station.clinic(), {1, "cajero1", QDate(2024, 11, 18)},
           {.nota = 3, .importe = 60, .pesos = 60});
@@ -296,12 +296,20 @@ TEST_F(FRM405Test, ADateIsCheckedBeforeTheShortcutCuts) {
     ASSERT_TRUE(generar()->isEnabled());
     press(Qt::Key_A, Qt::ControlModifier);
     typeText("18/11/24");
-    // The offscreen platform knows no mnemonics: a click is what they do, the focus stays.
-    generar()->click();
+    // Faster than the date is heard as left.
+    QTest::mouseClick(generar(), Qt::LeftButton);
     EXPECT_EQ(labels(), "3 EFECTIVO");
     ASSERT_EQ(station.printing.records.size(), 2);
     EXPECT_TRUE(report(0).contains("Corte de Caja del Día 18/11/2024"));
     EXPECT_TRUE(report(0).contains("RECIBOS DEL 3 AL 3"));
+
+    // An emptied date is today's again.
+    child<DateField>(screen.get(), "FechaCorte")->setFocus();
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    press(Qt::Key_G, Qt::AltModifier);
+    EXPECT_EQ(labels(), "5 EFECTIVO");
+    EXPECT_EQ(child<DateField>(screen.get(), "FechaCorte")->text(), "20/11/2024");
 }
 
 TEST_F(FRM405Test, AnAdministratorCutsTheCashierOfADeskAndShift) {
@@ -444,6 +452,18 @@ TEST_F(FRM405Test, AFailureStopsTheCutAndTheNextRunStartsAfresh) {
     EXPECT_EQ(rows("cortedetallado", "1=1"), 13);
     EXPECT_EQ(rows("totales", "1=1"), 1);
     EXPECT_DOUBLE_EQ(total("sumatodo"), 3789);
+
+    // A check that failed found nothing: no cut under the numbers of the one before.
+    child<DateField>(screen.get(), "FechaCorte")->setFocus();
+    press(Qt::Key_A, Qt::ControlModifier);
+    typeText("19/11/2024");
+    FailingSeam check("Qry405");
+    station.conexion.setSeam(&check);
+    station.messages.expectError("fallo de prueba");
+    press(Qt::Key_Tab);
+    station.conexion.setSeam(nullptr);
+    station.messages.expectInformation(kNoInformation);
+    generar()->click();
 }
 
 }  // namespace

@@ -56,7 +56,7 @@ TEST(CutTotals, TheBalanceRunsInTenThousandths) {
     }
     balance.add(0.00004);  // below half a ten-thousandth
     EXPECT_EQ(balance.total().tenThousandths(), 100000000);
-    const CutTotals row = cutTotals(4, "RMORALES",
+    const CutTotals row = cutTotals("RMORALES",
                                     {.pesos = 1,
                                      .dolares = 2,
                                      .cheque = 3,
