@@ -173,7 +173,7 @@ void FRM405::revisarMovimientos() {
 
 void FRM405::generar() {
     if (FechaCorte_->date() != fechaCorte_) {
-        // The date that was typed has not been heard as left, or no shift was chosen for it.
+        // A quick click comes before the date's leave handler; without a shift that checks nothing.
         if (!FechaCorte_->commit()) {
             return;
         }
