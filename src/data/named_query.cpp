@@ -336,7 +336,8 @@ void NamedQuery::setCurrent(int row) {
 }
 
 void NamedQuery::beginPending(Pending::Kind kind, int row) {
-    if (pending_ && pending_->row != row) {
+    // Behind a deleted row another one has taken its place.
+    if (pending_ && (pending_->row != row || pending_->kind == Pending::Kind::Delete)) {
         apply();
     }
     if (!pending_) {
@@ -411,6 +412,10 @@ void NamedQuery::post() {
 
 void NamedQuery::remove() {
     if (current_ < 0) {
+        return;
+    }
+    if (pending_ && pending_->kind == Pending::Kind::Insert && pending_->row == current_) {
+        cancelUpdates();
         return;
     }
     if (state_ != State::Browsing) {

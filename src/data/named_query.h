@@ -110,7 +110,7 @@ public:
     /// Sets a field of the row that is open for edit; opens it where none is.
     void set(const QString &field, const QVariant &value);
     void post();
-    /// Deletes the current row, pending until apply().
+    /// Deletes the current row, pending until apply(); one that was never written just goes.
     void remove();
     /// Undoes what was typed into the open row.
     void cancel();

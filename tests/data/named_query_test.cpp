@@ -153,6 +153,26 @@ TEST_F(NamedQueryTest, CancelBringsTheRowBack) {
     EXPECT_EQ(stored().size(), 2);
 }
 
+TEST_F(NamedQueryTest, ADeletionTakesItsOwnRowAndNoOther) {
+    query.open({{"tipo", 96}});
+    query.append();
+    query.remove();
+    EXPECT_EQ(query.count(), 3);
+    query.append();
+    query.set("tipo", 96);
+    query.set("clave", 2);
+    EXPECT_THROW(query.apply(), DatabaseError);
+    query.remove();
+    EXPECT_FALSE(query.isPending()) << "what the database refused can be dropped";
+    EXPECT_EQ(stored().size(), 3);
+
+    query.moveTo(1);
+    query.remove();
+    query.set("texto", "tras ella");
+    query.apply();
+    EXPECT_EQ(stored(), QList<QVariantList>({{1, "linea 1", 1}, {3, "tras ella", 1}}));
+}
+
 TEST_F(NamedQueryTest, ARowThatAnotherStationRemovedIsTold) {
     query.open({{"tipo", 96}});
     query.set("texto", "tarde");
