@@ -60,13 +60,20 @@ std::vector<Column> columnsOf(const QSqlRecord &record) {
 
 class OdbcResultSet final : public ResultSet {
 public:
-    explicit OdbcResultSet(QSqlQuery query)
-        : query_(std::move(query)), columns_(columnsOf(query_.record())) {}
+    OdbcResultSet(QSqlQuery query, QString connection, QString statement)
+        : query_(std::move(query)),
+          connection_(std::move(connection)),
+          statement_(std::move(statement)),
+          columns_(columnsOf(query_.record())) {}
 
     const std::vector<Column> &columns() const override { return columns_; }
     bool fetch(Row &row) override {
         if (!query_.next()) {
+            const QSqlError error = query_.lastError();
             query_.finish();
+            if (error.isValid()) {
+                fail(error, connection_, statement_, DatabaseFailure::Other);
+            }
             return false;
         }
         row.resize(columns_.size());
@@ -79,6 +86,8 @@ public:
 
 private:
     QSqlQuery query_;
+    QString connection_;
+    QString statement_;
     std::vector<Column> columns_;
 };
 
@@ -148,7 +157,7 @@ std::unique_ptr<ResultSet> OdbcConnection::select(const Statement &statement,
     if (execution) {
         seam()->afterExecution(*execution);
     }
-    return std::make_unique<OdbcResultSet>(std::move(query));
+    return std::make_unique<OdbcResultSet>(std::move(query), name(), statement.name);
 }
 
 qint64 OdbcConnection::execute(const Statement &statement, const Parameters &values) {

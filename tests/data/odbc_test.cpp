@@ -163,6 +163,16 @@ TEST_F(OdbcTest, FailuresNameTheConnectionAndTheStatement) {
     } catch (const DatabaseError &error) {
         EXPECT_EQ(error.details().statement, "BorrarCorte");
     }
+    // The second row fails while it is fetched: a list must not seem to end there.
+    OdbcConnection stepping("InfxEscolar");
+    stepping.setDatabase(connection.database() + ";StepAPI=1");
+    try {
+        rowsOf(stepping,
+               "select abs(n) from (select 1 as n union all select -9223372036854775807 - 1)");
+        FAIL() << "fetched";
+    } catch (const DatabaseError &error) {
+        EXPECT_EQ(error.details().connection, "InfxEscolar");
+    }
 }
 
 }  // namespace
