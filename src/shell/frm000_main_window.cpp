@@ -17,6 +17,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 #include <QUrl>
+#include <QVBoxLayout>
 
 namespace kaldo {
 
@@ -55,7 +56,8 @@ void FRM000::buildCentre() {
 }
 
 void FRM000::buildNotice() {
-    Panel2_ = new QWidget(backdrop_);
+    // Beside the child screens, which stand over it.
+    Panel2_ = new QWidget(backdrop_->viewport());
     Panel2_->setObjectName(QStringLiteral("Panel2"));
     auto *line = new QHBoxLayout(Panel2_);
     noticeButton_ = new Button(Panel2_);
@@ -64,6 +66,10 @@ void FRM000::buildNotice() {
                                   fontMetrics().height() * 2);
     line->addWidget(noticeButton_);
     connectGuarded(noticeButton_, &QPushButton::clicked, this, [this] { openNoticePage(); });
+    auto *place = new QVBoxLayout(backdrop_->viewport());
+    place->addStretch(5);
+    place->addWidget(Panel2_, 0, Qt::AlignHCenter);
+    place->addStretch(1);
     Panel2_->hide();
 }
 
@@ -98,6 +104,14 @@ void FRM000::Ini() {
     context_.session.ClienteSql = ini.value(QStringLiteral("Sql"), QStringLiteral("cliente"));
     backdrop_->setCaption(context_.session.ClienteNombre,
                           QStringLiteral("KALDO ") + QString::fromLatin1(kVersion));
+}
+
+void FRM000::rereadIni() {
+    // A file that is gone or can't be read at this moment would read as empty, and be written so.
+    const IniFile now(context_.ini.path());
+    if (!now.value(QStringLiteral("Sql"), QStringLiteral("cliente")).isEmpty()) {
+        context_.ini = now;
+    }
 }
 
 void FRM000::MainSkin() {
@@ -208,14 +222,6 @@ void FRM000::closeEvent(QCloseEvent *event) {
     });
 }
 
-void FRM000::resizeEvent(QResizeEvent *event) {
-    QMainWindow::resizeEvent(event);
-    const QSize area = backdrop_->size();
-    const QSize panel = Panel2_->sizeHint();
-    Panel2_->setGeometry((area.width() - panel.width()) / 2, area.height() * 5 / 6 - panel.height(),
-                         panel.width(), panel.height());
-}
-
 void FRM000::whenRunning(std::function<void()> call) {
     if (running_) {
         call();
@@ -251,7 +257,6 @@ void FRM000::showSkinNotice(Notice notice) {
     }
     noticeButton_->setText(telegram ? QStringLiteral("TELEGRAM") : QStringLiteral("Entrar"));
     Panel2_->show();
-    Panel2_->raise();
 }
 
 void FRM000::openNoticePage() {

@@ -46,6 +46,8 @@ public:
     void formCreate();
     /// Opens the ini file anew and takes its keys into the session.
     void Ini();
+    /// Takes the ini file as it stands now, before a write: what was changed by hand since stays.
+    void rereadIni();
     void MainSkin();
     void DisableButtons();
     void EnableButtons();
@@ -93,7 +95,6 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void buildMenu();

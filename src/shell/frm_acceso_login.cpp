@@ -114,14 +114,14 @@ bool FRMAcceso::hasUnattendedUser() const {
 
 void FRMAcceso::openAtStart() {
     ensureBuilt();
+    // The menu may have opened it while the splash stood, and it may still be open.
     fromMenu_ = false;
-    if (isVisible()) {
-        // Opened from the menu while the splash stood: now it is the first screen.
-        CheckBox1_->show();
-        BitBtn3_->setText(kLeaveProgram);
-        return;
+    CheckBox1_->show();
+    BitBtn3_->setText(kLeaveProgram);
+    BitBtn4_->hide();
+    if (!isVisible()) {
+        showModal();
     }
-    showModal();
 }
 
 void FRMAcceso::openFromMenu() {
@@ -130,7 +130,6 @@ void FRMAcceso::openFromMenu() {
     fromMenu_ = true;
     CheckBox1_->hide();
     BitBtn3_->setText(QStringLiteral("Salir de la Ventana"));
-    BitBtn4_->hide();
     BitBtn2Click();
     showModal();
 }
@@ -161,6 +160,7 @@ void FRMAcceso::CheckBox1Click() {
         CheckBox1_->setChecked(false);
         return;
     }
+    main_.rereadIni();
     context().ini.setValue(kUsuario, QStringLiteral("user"),
                            CheckBox1_->isChecked() ? Edit1_->text() : QString());
     main_.Ini();
@@ -324,6 +324,7 @@ void FRMAcceso::offerWizard() {
 void FRMAcceso::BitBtn2Click() {
     Edit1_->clear();
     Edit2_->clear();
+    offerPasswordChange();
     moveFocus(Edit1_);
 }
 

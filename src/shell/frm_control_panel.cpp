@@ -193,7 +193,7 @@ void FRMControlPanel::AplicarCambios() {
     }
     changed.ImgEmpresa = logos_[0].path;
     changed.ImgEmpresa1 = logos_[1].path;
-    rereadFile();
+    main_.rereadIni();
     changed.save(context().ini);
     context().options = changed;
     main_.Ini();
@@ -201,14 +201,6 @@ void FRMControlPanel::AplicarCambios() {
     messages().information(
         QStringLiteral("Algunos cambios pueden necesitar reiniciar el sistema."));
     accept();
-}
-
-void FRMControlPanel::rereadFile() {
-    // A file that is gone or can't be read at this moment would read as empty, and be written so.
-    const IniFile now(context().ini.path());
-    if (!now.value(QStringLiteral("Sql"), QStringLiteral("cliente")).isEmpty()) {
-        context().ini = now;
-    }
 }
 
 bool FRMControlPanel::valuesFit() {

@@ -54,8 +54,6 @@ private:
     void bindRecords();
 
     void AplicarCambios();
-    /// What was written into the file by hand meanwhile stays.
-    void rereadFile();
     bool valuesFit();
     bool recordsSaved();
     void showOptions();

@@ -111,6 +111,7 @@ void grantDesks(Granting &granting, ShellRights &rights) {
     granting.enable({"F3"});
     granting.byRightOrTakeAway("D2", "I2");
     granting.byRight("F1", 4);
+    granting.byRight({"A3"});  // it does nothing for them
     rights.sideBar = false;
 }
 

@@ -80,8 +80,18 @@ TEST(Login, AdministratorAndStudentsDesk) {
         station.login(), [&] { station.window().openEntry("J1"); },
         [&] { station.typeUser("clinica", "cli"); });
     EXPECT_EQ(station.session().Acceso.text(), "AL");
-    EXPECT_TRUE(child<QWidget>(&station.window(), "Panel2")->isVisible());
-    EXPECT_EQ(child<QPushButton>(&station.window(), "noticeButton")->text(), "TELEGRAM");
+    auto *notice = child<QPushButton>(&station.window(), "noticeButton");
+    EXPECT_EQ(notice->text(), "TELEGRAM");
+    const auto inFront = [&] {
+        return station.window().childAt(notice->mapTo(&station.window(), notice->rect().center()));
+    };
+    settle();
+    EXPECT_EQ(inFront(), notice);
+    station.window().runEntry("E6");
+    settle();
+    station.window().childScreen()->parentWidget()->showMaximized();
+    settle();
+    EXPECT_NE(inFront(), notice) << "a screen stands over the notice";
     // Anybody else's login hides the notice again.
     station.inDialog(
         station.login(), [&] { station.window().openEntry("J1"); },
@@ -253,9 +263,12 @@ TEST(Login, RememberedUserIsWrittenAndForgotten) {
         child<QLineEdit>(&station.login(), "Edit1")->setFocus();
         typeText("cajero1");
         box->setFocus();
+        station.installation.setIni("Etiquetas", "margen", "0.75");
         press(Qt::Key_Space);
         EXPECT_TRUE(box->isChecked());
-        EXPECT_EQ(IniFile(station.installation.iniPath()).value("Usuario", "user"), "cajero1");
+        const IniFile written(station.installation.iniPath());
+        EXPECT_EQ(written.value("Usuario", "user"), "cajero1");
+        EXPECT_EQ(written.value("Etiquetas", "margen"), "0.75") << "written by hand meanwhile";
         child<QLineEdit>(&station.login(), "Edit2")->setFocus();
         typeText("caja1");
         press(Qt::Key_Return);
@@ -315,6 +328,10 @@ TEST(Password, IsChangedByItsOwner) {
             typeText("cajero");
             EXPECT_FALSE(change->isVisible());
             typeText("1");
+            EXPECT_TRUE(change->isVisible());
+            press(Qt::Key_B, Qt::AltModifier);
+            EXPECT_FALSE(change->isVisible()) << "the code is gone";
+            typeText("cajero1");
             EXPECT_TRUE(change->isVisible());
             auto *dialog = child<QDialog>(&station.window(), "FRMPass");
             station.inDialog(

@@ -50,8 +50,8 @@ TEST(Rights, EachProfileWithEveryRight) {
         entries(kAlways) + entries("A3 D1 D1a D1b D1c C1 C2 C3 E1 E2 E3 E4 E5a E5b E5c E5d E6 "
                                    "E7 E8 E9 F1 F2 H1a H1b H2a H2b H2c H2d H2e J2 J2a"));
     EXPECT_EQ(withAllBut("MA", {}).enabled,
-              entries(kAlways) + entries("D1 D1a D1b D1c C1 C2 C3 D2 F1 F3 H1a H1b"));
-    EXPECT_EQ(withAllBut("AL", {}).enabled, entries(kAlways) + entries("D1 D2 F1 F3"));
+              entries(kAlways) + entries("A3 D1 D1a D1b D1c C1 C2 C3 D2 F1 F3 H1a H1b"));
+    EXPECT_EQ(withAllBut("AL", {}).enabled, entries(kAlways) + entries("A3 D1 D2 F1 F3"));
 }
 
 TEST(Rights, EachProfileWithoutAnyRight) {

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QPushButton>
 #include <QTableView>
 
 namespace kaldo::test {
@@ -197,6 +198,22 @@ TEST(Start, ConsultationStationOpensTheDossiersWithoutLogin) {
     EXPECT_FALSE(station.stillOpen);
     EXPECT_TRUE(station.window().isEnabled());
     EXPECT_FALSE(station.window().sessionStarted());
+}
+
+TEST(Start, LoginPutAwayUnderTheSplashComesBackAsTheFirstScreen) {
+    ShellStation station;
+    station.splash = std::chrono::milliseconds(150);
+    ASSERT_TRUE(station.start());
+    station.inDialog(
+        station.login(), [&] { station.window().openEntry("J1"); }, [] { press(Qt::Key_Escape); });
+    ASSERT_NE(station.program->splash(), nullptr);
+    station.inDialog(
+        station.login(), [] {},
+        [&] {
+            EXPECT_TRUE(child<QWidget>(&station.login(), "CheckBox1")->isVisible());
+            EXPECT_EQ(child<QPushButton>(&station.login(), "BitBtn3")->text(),
+                      "&Salir de la Aplicación");
+        });
 }
 
 TEST(Start, LoginOpenedOverTheSplashBecomesTheFirstScreen) {
