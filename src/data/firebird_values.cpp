@@ -183,6 +183,97 @@ QString toText(const QVariant &value) {
     }
 }
 
+// Each of these fills the buffer of a parameter, or gives a reason why the value doesn't fit.
+
+template <typename Integer>
+QString storeCount(QByteArray &buffer, const QVariant &value, short scale) {
+    using Limits = std::numeric_limits<Integer>;
+    qint64 count = 0;
+    const QString why = toCount(value, scale, Limits::min(), Limits::max(), &count);
+    store(buffer, static_cast<Integer>(count));
+    return why;
+}
+
+template <typename Real>
+QString storeNumber(QByteArray &buffer, const QVariant &value) {
+    bool ok = false;
+    const double number = value.toDouble(&ok);
+    if (!ok || !std::isfinite(number)) {
+        return QStringLiteral("no es un número.");
+    }
+    store(buffer, static_cast<Real>(number));
+    return QString();
+}
+
+ISC_DATE toDays(const QDate &date) {
+    return static_cast<ISC_DATE>(date.toJulianDay() - firstDay);
+}
+
+ISC_TIME toTicks(const QTime &time) {
+    return static_cast<ISC_TIME>(time.msecsSinceStartOfDay() * ticksPerMillisecond);
+}
+
+QString storeDate(QByteArray &buffer, const QDate &date) {
+    if (!date.isValid()) {
+        return QStringLiteral("no es una fecha.");
+    }
+    store(buffer, toDays(date));
+    return QString();
+}
+
+QString storeTime(QByteArray &buffer, const QTime &time) {
+    if (!time.isValid()) {
+        return QStringLiteral("no es una hora.");
+    }
+    store(buffer, toTicks(time));
+    return QString();
+}
+
+QString storeTimestamp(QByteArray &buffer, const QDateTime &moment) {
+    if (!moment.isValid()) {
+        return QStringLiteral("no es una fecha y hora.");
+    }
+    store(buffer, ISC_TIMESTAMP{toDays(moment.date()), toTicks(moment.time())});
+    return QString();
+}
+
+QString storeText(QByteArray &buffer, const QVariant &value, int width) {
+    const QString text = toText(value);
+    if (characterCount(text) > width) {
+        return QStringLiteral("tiene más de %1 caracteres.").arg(width);
+    }
+    buffer = text.toUtf8();
+    buffer.reserve(1);
+    return QString();
+}
+
+QString storeValue(QByteArray &buffer, const QVariant &value, short type, short scale) {
+    switch (type) {
+        case SQL_SHORT:
+            return storeCount<ISC_SHORT>(buffer, value, scale);
+        case SQL_LONG:
+            return storeCount<ISC_LONG>(buffer, value, scale);
+        case SQL_INT64:
+            return storeCount<ISC_INT64>(buffer, value, scale);
+        case SQL_FLOAT:
+            return storeNumber<float>(buffer, value);
+        case SQL_DOUBLE:
+        case SQL_D_FLOAT:
+            return storeNumber<double>(buffer, value);
+        case SQL_TYPE_DATE:
+            return storeDate(buffer, value.toDate());
+        case SQL_TYPE_TIME:
+            return storeTime(buffer, value.toTime());
+        case SQL_TIMESTAMP:
+            return storeTimestamp(buffer, value.toDateTime());
+        case SQL_BOOLEAN:
+            store(buffer, static_cast<char>(value.toBool() ? 1 : 0));
+            return QString();
+        default:
+            return QStringLiteral("su tipo no se puede escribir.");
+    }
+}
+
 }  // namespace
 
 FirebirdRow::FirebirdRow() {
@@ -264,7 +355,6 @@ void FirebirdParameters::bind(const std::vector<const QVariant *> &values, const
     for (std::size_t at = 0; at < described_.size(); ++at) {
         const Described &described = described_[at];
         const QVariant &value = *values.at(at);
-        const QString &name = names.at(static_cast<qsizetype>(at));
         XSQLVAR &variable = row_.sqlda()->sqlvar[at];
         QByteArray &buffer = buffers_[at];
         variable.sqltype = static_cast<ISC_SHORT>(described.type | 1);
@@ -272,101 +362,19 @@ void FirebirdParameters::bind(const std::vector<const QVariant *> &values, const
         variable.sqllen = described.length;
         variable.sqlind = &nulls_[at];
         nulls_[at] = value.isValid() ? 0 : -1;
+        QString why;
         if (!value.isValid()) {
             buffer.resize(std::max<qsizetype>(described.length + 2, 8));
-            variable.sqldata = buffer.data();
-            continue;
+        } else if (described.type == SQL_TEXT || described.type == SQL_VARYING) {
+            why = storeText(buffer, value, charactersOf(described.subtype, described.length));
+            variable.sqltype = SQL_TEXT | 1;
+            variable.sqllen = static_cast<ISC_SHORT>(buffer.size());
+        } else {
+            why = storeValue(buffer, value, described.type, described.scale);
         }
-        const auto refuseValue = [&](const QString &why) {
-            refuse(value.toString(), name, why, statement, connection);
-        };
-        qint64 count = 0;
-        const auto countWithin = [&](qint64 lowest, qint64 highest) {
-            const QString why = toCount(value, described.scale, lowest, highest, &count);
-            if (!why.isEmpty()) {
-                refuseValue(why);
-            }
-        };
-        switch (described.type) {
-            case SQL_SHORT:
-                countWithin(std::numeric_limits<ISC_SHORT>::min(),
-                            std::numeric_limits<ISC_SHORT>::max());
-                store(buffer, static_cast<ISC_SHORT>(count));
-                break;
-            case SQL_LONG:
-                countWithin(std::numeric_limits<ISC_LONG>::min(),
-                            std::numeric_limits<ISC_LONG>::max());
-                store(buffer, static_cast<ISC_LONG>(count));
-                break;
-            case SQL_INT64:
-                countWithin(std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max());
-                store(buffer, static_cast<ISC_INT64>(count));
-                break;
-            case SQL_FLOAT:
-            case SQL_DOUBLE:
-            case SQL_D_FLOAT: {
-                bool ok = false;
-                const double number = value.toDouble(&ok);
-                if (!ok || !std::isfinite(number)) {
-                    refuseValue(QStringLiteral("no es un número."));
-                }
-                if (described.type == SQL_FLOAT) {
-                    store(buffer, static_cast<float>(number));
-                } else {
-                    store(buffer, number);
-                }
-                break;
-            }
-            case SQL_TYPE_DATE: {
-                const QDate date = value.toDate();
-                if (!date.isValid()) {
-                    refuseValue(QStringLiteral("no es una fecha."));
-                }
-                store(buffer, static_cast<ISC_DATE>(date.toJulianDay() - firstDay));
-                break;
-            }
-            case SQL_TYPE_TIME: {
-                const QTime time = value.toTime();
-                if (!time.isValid()) {
-                    refuseValue(QStringLiteral("no es una hora."));
-                }
-                store(buffer,
-                      static_cast<ISC_TIME>(time.msecsSinceStartOfDay() * ticksPerMillisecond));
-                break;
-            }
-            case SQL_TIMESTAMP: {
-                const QDateTime moment = value.toDateTime();
-                if (!moment.isValid()) {
-                    refuseValue(QStringLiteral("no es una fecha y hora."));
-                }
-                ISC_TIMESTAMP stamp;
-                stamp.timestamp_date =
-                    static_cast<ISC_DATE>(moment.date().toJulianDay() - firstDay);
-                stamp.timestamp_time = static_cast<ISC_TIME>(moment.time().msecsSinceStartOfDay() *
-                                                             ticksPerMillisecond);
-                store(buffer, stamp);
-                break;
-            }
-            case SQL_BOOLEAN:
-                store(buffer, static_cast<char>(value.toBool() ? 1 : 0));
-                break;
-            case SQL_TEXT:
-            case SQL_VARYING: {
-                const QString text = toText(value);
-                const int width = charactersOf(described.subtype, described.length);
-                if (characterCount(text) > width) {
-                    refuseValue(QStringLiteral("tiene más de %1 caracteres.").arg(width));
-                }
-                buffer = text.toUtf8();
-                variable.sqltype = SQL_TEXT | 1;
-                variable.sqllen = static_cast<ISC_SHORT>(buffer.size());
-                if (buffer.isEmpty()) {
-                    buffer.reserve(1);
-                }
-                break;
-            }
-            default:
-                refuseValue(QStringLiteral("su tipo no se puede escribir."));
+        if (!why.isEmpty()) {
+            refuse(value.toString(), names.at(static_cast<qsizetype>(at)), why, statement,
+                   connection);
         }
         variable.sqldata = buffer.data();
     }
