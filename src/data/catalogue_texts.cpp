@@ -4,13 +4,14 @@ namespace kaldo {
 
 namespace {
 
-/// A test by prefix: the ODBC form knows no "starting with".
+/// A test by prefix: the ODBC form knows no "starting with". NULL finds nothing in either form.
 RuntimeText &prefix(RuntimeText &text, const char *firebird, const char *odbc, const char *name,
                     const QVariant &value) {
     const QString parameter = QString::fromLatin1(name);
     return text.line(QString::fromLatin1(firebird), QString::fromLatin1(odbc))
         .bind(parameter, value)
-        .bind(parameter + QStringLiteral("Prefijo"), QString(value.toString() + u'%'));
+        .bind(parameter + QStringLiteral("Prefijo"),
+              value.isValid() ? QVariant(value.toString() + u'%') : QVariant());
 }
 
 RuntimeText prefixTest(const char *select, const char *firebird, const char *odbc, const char *name,

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "data/catalogue_texts.h"
 #include "data/database_error.h"
 #include "data/options.h"
 #include "data/runtime_texts.h"
@@ -38,6 +39,8 @@ TEST(RuntimeTextTest, TheOdbcFormCarriesItsValuesBetweenDoubleQuotes) {
     EXPECT_TRUE(listaPreciosFaceText(96, true).odbc().contains("not like \"%FACE 2\""));
     EXPECT_TRUE(listaPreciosFaceText(96, false).odbc().contains("not like \"%FACE 1%\""));
     EXPECT_TRUE(claveRepetidaText(QVariant()).odbc().contains("cve_prod=null"));
+    EXPECT_TRUE(cajaText(QVariant()).odbc().contains("num_caja like null"));
+    EXPECT_TRUE(cajaText(1).odbc().contains("num_caja like \"1%\""));
 
     const QList<RuntimeText> cut = borrarCorteTexts(1, QDate(2024, 9, 30));
     ASSERT_EQ(cut.size(), 3);
