@@ -96,7 +96,8 @@ public:
     virtual void open() = 0;
     virtual void close() = 0;
 
-    /// Opens a select. Parameters that the text doesn't name are an error, as is a missing one.
+    /// Opens a select. A missing parameter is an error; values that the text doesn't name are
+    /// passed over.
     virtual std::unique_ptr<ResultSet> select(const Statement &statement,
                                               const Parameters &values) = 0;
 
