@@ -2,6 +2,8 @@
 
 #include <QTimer>
 
+#include <utility>
+
 namespace kaldo {
 
 FRM401_3::FRM401_3(Context &context)
@@ -126,7 +128,7 @@ void FRM401_3::Totales() {
     showTotals();
     if (payment_.subtotal != before) {
         unseen_ = true;
-        QTimer::singleShot(0, this, [this] { unseen_ = false; });
+        QTimer::singleShot(0, this, [this] { unseen_ = ImprimirRecibo_->isDown(); });
     }
     acceptable(nothingMissing(payment_));
     if (ImprimirRecibo_->isEnabled()) {
@@ -269,8 +271,8 @@ void FRM401_3::imprimirRecibo() {
         return;
     }
     Totales();
-    if (unseen_) {
-        return;  // pressed from a box by its letter: the new totals are to be seen first
+    if (std::exchange(unseen_, false)) {
+        return;  // pressed from a box, by letter or mouse: the new totals are to be seen first
     }
     if (ready_ && isEnough(payment_)) {
         payment_.confirmado = true;

@@ -67,6 +67,13 @@ protected:
         typeText(amount);
     }
 
+    static void click(QWidget *button) {
+        QTest::mousePress(button, Qt::LeftButton);
+        test::settle();
+        QTest::mouseRelease(button, Qt::LeftButton);
+        test::settle();
+    }
+
     test::TestStation station;
     FRM401_3 form{station.context};
 };
@@ -246,7 +253,7 @@ TEST_F(PaymentForm, AHeldEnterAcceptsNothing) {
     EXPECT_FALSE(payment.confirmado);
 }
 
-TEST_F(PaymentForm, TheLetterOfTheButtonShowsNewTotalsBeforeItAccepts) {
+TEST_F(PaymentForm, TheButtonShowsNewTotalsBeforeItAccepts) {
     const Payment payment = pay(noteOf(350), [&] {
         typeText("350");
         press(Qt::Key_Return);
@@ -272,6 +279,15 @@ TEST_F(PaymentForm, TheLetterOfTheButtonShowsNewTotalsBeforeItAccepts) {
         ASSERT_TRUE(form.isVisible());
         EXPECT_EQ(shown("CEdit10"), "$250.00");
         EXPECT_EQ(focused(), "ImprimirRecibo");
+
+        press(Qt::Key_Tab, Qt::ShiftModifier);
+        for (const char *text : {"1.2.3", "700"}) {
+            press(Qt::Key_A, Qt::ControlModifier);
+            typeText(text);
+            click(child<Button>(&form, "ImprimirRecibo"));
+            ASSERT_TRUE(form.isVisible()) << text;
+        }
+        EXPECT_EQ(shown("CEdit10"), "$350.00");
     });
     EXPECT_FALSE(payment.confirmado);
 }
