@@ -18,6 +18,9 @@ struct EmployeeRow {
 /// Only the message counts, whatever the other columns say.
 bool isCurrentEmployee(const std::optional<EmployeeRow> &row);
 
+/// The patient type without a benefit.
+inline constexpr int kPlainPatient = 1;
+
 /// The patient type that a walk-in employee pays as: 2 for an employee of type 1, 5 for type 2.
 /// Other types leave the patient type as it stands.
 std::optional<int> patientTypeOfEmployee(int tipoEmpleado);

@@ -6,12 +6,6 @@
 
 namespace kaldo {
 
-namespace {
-
-constexpr int kPlainPatient = 1;
-
-}  // namespace
-
 FRMPaciente::FRMPaciente(Context &context)
     : Dialog(context, QStringLiteral("FRMPaciente"), QStringLiteral("Tipo de Paciente")) {}
 
@@ -43,7 +37,8 @@ void FRMPaciente::build() {
                 .shown(44)
                 .with(
                     [this](LookupField *field) { bindLookup(field, &context().caja.PrestacionSB); })
-                .closedUp([this] { elegirTipo(); }),
+                .closedUp([this] { elegirTipo(); })
+                .edited([this] { boton_->setEnabled(false); }),
             strip(&panelEmpleado_, QStringLiteral("PanelEmpleado"),
                   {text(&noEmpleado_, QStringLiteral("NoEmpleado"), QStringLiteral("No.Empleado"))
                        .digits()

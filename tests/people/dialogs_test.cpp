@@ -45,6 +45,12 @@ TEST_F(PeopleDialogs, ThePlainPatientGoesOnAtOnce) {
         press(Qt::Key_Return);
         EXPECT_EQ(focused(), "Continuar");
         EXPECT_FALSE(child<QWidget>(&dialog, "PanelEmpleado")->isVisible());
+        // A class that is taken back is none.
+        press(Qt::Key_Tab);
+        press(Qt::Key_Backspace);
+        EXPECT_FALSE(child<QWidget>(&dialog, "Continuar")->isEnabled());
+        typeText("PACIENTE G");
+        press(Qt::Key_Return);
         press(Qt::Key_Return);
     });
     const auto chosen = dialog.choose(nullptr);
