@@ -10,6 +10,17 @@ namespace kaldo {
 void FRM401::repetirExpediente() {
     if (!Edit2_->isReadOnly() && !session().UltimoExpediente.text().isEmpty()) {
         Edit2_->setText(session().UltimoExpediente.text());
+        expedienteCambiado();
+    }
+}
+
+/// Only the dossier that was accepted is charged; its number typed back brings the note back.
+void FRM401::expedienteCambiado() {
+    if (payerMissing()) {
+        agregar_->setEnabled(false);
+        registrar_->setEnabled(false);
+    } else if (!Editando_ && !context().local.FBDetalleVtas.isEmpty()) {
+        NoEditar();
     }
 }
 
@@ -60,7 +71,7 @@ void FRM401::buscarExpediente() {
     // A dossier that is not in force ends here without a word.
     if (Expe_->text(QStringLiteral("STATUS")) != QLatin1String("AU")) {
         forgetDossier();
-        stayHere();
+        moveFocus(Edit2_);
         return;
     }
     DatosExpediente();
@@ -102,7 +113,7 @@ bool FRM401::edadCorresponde() {
 /// Nothing of an earlier dossier stays while another one is sought.
 void FRM401::forgetDossier() {
     LimpiaEmpleado();
-    expedienteTomado_ = false;
+    expedienteTomado_.clear();
     FolioAdmision_ = 0;
     PrestacionExpediente_ = 0;
     for (TextField *field : {paterno_, materno_, nombre_, matricula_, alumno_, tipoPaciente_}) {
@@ -110,6 +121,7 @@ void FRM401::forgetDossier() {
     }
     panelOrigen_->setVisible(false);
     origen_->clear();
+    panelAlumno_->setEnabled(false);
     agregar_->setEnabled(false);
     registrar_->setEnabled(false);
 }
@@ -160,9 +172,9 @@ bool FRM401::useDossier() {
 }
 
 void FRM401::takeDossierData() {
-    expedienteTomado_ = true;
     PrestacionExpediente_ = Expe_->integer(QStringLiteral("PRESTACION"));
     Edit2_->setText(Expe_->text(QStringLiteral("EXPEDIENTE")));
+    expedienteTomado_ = Edit2_->text();
     paterno_->setText(Expe_->text(QStringLiteral("PATERNO")));
     materno_->setText(Expe_->text(QStringLiteral("MATERNO")));
     nombre_->setText(Expe_->text(QStringLiteral("PACIENTE")));
@@ -176,6 +188,8 @@ void FRM401::takeDossierData() {
     if (PrestacionExpediente_ > 0) {
         openPatientType(PrestacionExpediente_);
         tipoPaciente_->setText(context().caja.Prestaciones1.text(QStringLiteral("DESCRIPCION")));
+    } else {
+        openPatientType(kPlainPatient);  // not the one of the dossier before
     }
 }
 
@@ -256,6 +270,7 @@ void FRM401::tomarExpediente() {
 
 void FRM401::cancelarLista() {
     Edit2_->clear();
+    expedienteCambiado();
     hideDossierList();
     moveFocus(Edit2_);
 }

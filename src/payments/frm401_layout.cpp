@@ -162,6 +162,7 @@ form::Item FRM401::serviceItems() {
              .source(descriptions(&context().odonto.serviciosxctros, QStringLiteral("TIPO_PROD"),
                                   QStringLiteral("Clasif. del Servicio")))
              .closedUp([this] { elegirArea(); })
+             .edited([this] { identifyAnew(); })
              .grow(),
          strip(
              &panelLugar_, QStringLiteral("PanelLugar"),
@@ -169,6 +170,7 @@ form::Item FRM401::serviceItems() {
                   .source(descriptions(&context().odonto.AreaAtencion, QStringLiteral("AREA"),
                                        QStringLiteral("Lugar de Atención")))
                   .closedUp([this] { elegirLugar(); })
+                  .edited([this] { identifyAnew(); })
                   .above()
                   .grow()})
              .grow()});
@@ -182,6 +184,7 @@ form::Item FRM401::patientItems() {
              .width(8)
              .key(Qt::Key_F5, [this] { consultarExpedientes_->click(); })
              .key(Qt::Key_F8, [this] { repetirExpediente(); })
+             .edited([this] { expedienteCambiado(); })
              .enter([this] { buscarExpediente(); }),
          iconButton(&consultarExpedientes_, QStringLiteral("ConsultarExpedientes"),
                     QStringLiteral("Consultar Expedientes F5"), QStringLiteral("search"))

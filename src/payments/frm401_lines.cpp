@@ -25,6 +25,7 @@ void FRM401::wireGrid() {
     connectGuarded(grid_, &DataGrid::closedUp, this, [this](const QString &, int row) {
         precios_->moveTo(row);
         closeUpClave();
+        claveRechazada_ = false;
     });
     connectGuarded(grid_, &DataGrid::resolved, this, [this](const QString &, int row) {
         if (row >= 0) {
@@ -137,19 +138,27 @@ void FRM401::stayInColumn(const QString &field) {
     grid_->setCurrentField(field);
 }
 
-/// Some treatments of the FACE area are charged to a dossier once at a time.
 void FRM401::closeUpClave() {
+    if (!treatmentAllowed()) {
+        clearClave();
+    }
+}
+
+/// Some treatments of the FACE area are charged to a dossier once at a time. False after telling
+/// that the price list's current one is not charged now.
+bool FRM401::treatmentAllowed() {
     const int codigo = precios_->integer(QStringLiteral("CODIGO"));
     if (Edit2_->text().isEmpty() || !needsTreatmentCheck(tipoProd(), codigo)) {
-        return;
+        return true;
     }
     NamedQuery &check = context().caja.verifica_pagodetratamiento_p;
     check.open(
         {{QStringLiteral("P_EXPEDIENTE"), Edit2_->text()}, {QStringLiteral("P_CODIGO"), codigo}});
-    if (check.integer(QStringLiteral("VALOR")) == 0) {
-        messages().information(check.text(QStringLiteral("MENSAJE")));
-        clearClave();
+    if (check.integer(QStringLiteral("VALOR")) != 0) {
+        return true;
     }
+    messages().information(check.text(QStringLiteral("MENSAJE")));
+    return false;
 }
 
 void FRM401::enterColumn(const QString &field) {
@@ -180,10 +189,15 @@ void FRM401::enterClave() {
     ClaveActual_ = key;
     ClaveRepetida_->setText(claveRepetidaText(key));
     ClaveRepetida_->open();
-    if (!ClaveRepetida_->isEmpty() || (!key.isValid() && conceptoRepetido())) {
+    if (!ClaveRepetida_->isEmpty() || conceptoRepetido()) {
         clearClave();
         messages().information(QStringLiteral(
             "La clave ya se encuentra registrada, presione cualquier tecla para continuar."));
+        stayInColumn(clave());
+        return;
+    }
+    // An empty key takes a concept that nobody picked.
+    if (!key.isValid() && !treatmentAllowed()) {
         stayInColumn(clave());
         return;
     }
@@ -192,8 +206,8 @@ void FRM401::enterClave() {
     stayInColumn(QStringLiteral("DESCRIPCION"));
 }
 
-/// Another line charges the price list's current concept already: an empty "Clave" would take it a
-/// second time, and the note could not be registered.
+/// Another line charges the price list's current concept already, perhaps under an empty "Clave":
+/// a note that charges it twice could not be registered.
 bool FRM401::conceptoRepetido() {
     const NamedQuery &table = context().local.FBDetalleVtas;
     const int codigo = precios_->integer(QStringLiteral("CODIGO"));

@@ -28,7 +28,8 @@ void FRM401::readyForLines() {
 
 /// A note of the clinic is charged to a dossier and to nobody else.
 bool FRM401::payerMissing() const {
-    return payerPath(TipoServ_) == PayerPath::Dossier && !expedienteTomado_;
+    return payerPath(TipoServ_) == PayerPath::Dossier &&
+           (expedienteTomado_.isEmpty() || Edit2_->text() != expedienteTomado_);
 }
 
 void FRM401::enterPaterno() {

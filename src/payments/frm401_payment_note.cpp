@@ -111,7 +111,7 @@ void FRM401::clearPayer() {
     }
     // The age of nobody yet: a date left at today is asked for.
     edad_->setText(QStringLiteral("0"));
-    expedienteTomado_ = false;
+    expedienteTomado_.clear();
     sexo_->setIndex(-1);
     for (TextField *name : {paterno_, materno_, nombre_}) {
         name->setFieldReadOnly(false);

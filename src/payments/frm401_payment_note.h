@@ -65,6 +65,7 @@ private:
     void CadenaTS();
     void elegirArea();
     void elegirLugar();
+    void identifyAnew();
     void ClasServicios();
     void abrirExpediente();
     void identifyByDossier();
@@ -93,6 +94,7 @@ private:
     void hideDossierList();
     void cancelarLista();
     void repetirExpediente();
+    void expedienteCambiado();
     void forgetDossier();
     void refuseDossier();
     void alternarFiltro();
@@ -119,6 +121,7 @@ private:
     void Editar();
     void NoEditar();
     void closeUpClave();
+    bool treatmentAllowed();
     void enterColumn(const QString &field);
     void enterClave();
     void enterCantidad();
@@ -167,7 +170,7 @@ private:
     bool NombreRepetido_ = false;
     bool PrestamoValido_ = false;
     bool PrestamoPendiente_ = false;
-    bool expedienteTomado_ = false;  ///< the payer's fields show a dossier that was accepted
+    QString expedienteTomado_;  ///< the dossier that was accepted; empty without one
     bool claveRechazada_ =
         false;  ///< the key typed last was cleared: the same Enter goes no further
 

@@ -6,6 +6,7 @@
 #include "payments/frm401_3_payment_form.h"
 #include "payments/frm401_payment_note.h"
 #include "payments/registration.h"
+#include "payments/registration_parameters.h"
 
 namespace kaldo {
 
@@ -30,6 +31,8 @@ void FRM401::registrarInformacion() {
     }
 
     const NoteDraft note = draft();
+    // A number that is none is told before anything is paid.
+    static_cast<void>(matriculaNumber(note));
     const Payment payment = formaPago_.pay(note, this);
     if (!payment.confirmado) {
         NoEditar();

@@ -1,14 +1,9 @@
 #include "data/runtime_texts.h"
 #include "payments/frm401_payment_note.h"
 #include "payments/service_types.h"
+#include "people/employee.h"
 
 namespace kaldo {
-
-namespace {
-
-constexpr int kPlainPatient = 1;
-
-}  // namespace
 
 void FRM401::elegirTipoServicio() {
     if (!context().local.FBDetalleVtas.isEmpty() || ComboBox1_->currentIndex() < 0) {
@@ -39,8 +34,7 @@ void FRM401::elegirArea() {
     places.open({{QStringLiteral("centro"), session().Centro.text()},
                  {QStringLiteral("tipo"), tipoProd()}});
     ComboBox3_->clearField();
-    // Whoever was identified before has to pass the new area's tests.
-    agregar_->setEnabled(false);
+    identifyAnew();
     panelLugar_->setVisible(!places.isEmpty());
     if (places.isEmpty()) {
         ClasServicios();
@@ -55,9 +49,18 @@ void FRM401::elegirLugar() {
     }
 }
 
+/// Whoever was identified before has to pass the tests of the area and place that come.
+void FRM401::identifyAnew() {
+    expedienteTomado_.clear();
+    panelPaciente_->setEnabled(false);
+    panelAlumno_->setEnabled(false);
+    panelNoEmpleado_->setVisible(false);
+    agregar_->setEnabled(false);
+}
+
 /// The service decides how the payer is identified.
 void FRM401::ClasServicios() {
-    agregar_->setEnabled(false);
+    identifyAnew();
     switch (payerPath(TipoServ_)) {
         case PayerPath::OpenDossier:
             abrirExpediente();
@@ -148,7 +151,6 @@ void FRM401::identifyByNames() {
 }
 
 void FRM401::identifyByStudent() {
-    panelPaciente_->setEnabled(false);
     panelAlumno_->setVisible(true);
     panelAlumno_->setEnabled(true);
     moveFocus(matricula_);
@@ -158,12 +160,9 @@ void FRM401::identifyEmployeeOrStudent() {
     openPatientType(kPlainPatient);
     // Asked anew: the answer of before must not name the payer.
     LimpiaEmpleado();
-    for (TextField *field : {noEmpleado_, matricula_, alumno_}) {
+    for (TextField *field : {noEmpleado_, matricula_, alumno_, paterno_, materno_, nombre_}) {
         field->clear();
     }
-    panelNoEmpleado_->setVisible(false);
-    panelAlumno_->setEnabled(false);
-    panelPaciente_->setEnabled(false);
     if (messages().confirm(QStringLiteral("Es empleado?")) == Answer::Yes) {
         panelNoEmpleado_->setVisible(true);
         moveFocus(noEmpleado_);

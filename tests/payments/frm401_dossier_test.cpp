@@ -216,6 +216,16 @@ TEST_F(PaymentNoteDossier, ABenefitNeedsAnEmployeeWhoIsStillOne) {
     addLine("1");
     // Benefits are not counted at this desk yet.
     EXPECT_EQ(text("CEdit1"), "$0.00");
+
+    // A dossier without a class pays as anyone, whoever was here before.
+    test::run(station.clinic(),
+              "update expedientes set prestacion=0 where expediente='00002/24' and campus='VAN'");
+    tabTo("Edit2", false);
+    station.messages.expectConfirmation(
+        "Desea usar la información seleccionada de RICARDO NUÑEZ ARAGON ?", Answer::Yes);
+    search("2/24");
+    EXPECT_EQ(text("TipoPaciente"), "");
+    EXPECT_EQ(station.caja.Prestaciones1.integer("prestacion"), 1);
 }
 
 TEST_F(PaymentNoteDossier, TheListIsOpenedByF5AndPicksByEnter) {
@@ -328,6 +338,11 @@ TEST_F(PaymentNoteDossier, TheFaceAreaListsTheConceptsOfTheAge) {
         "El tratamiento ya está registrado y tiene saldo pendiente, registre un abono.");
     press(Qt::Key_Return);
     EXPECT_TRUE(lines().isNull("CVE_PROD"));
+    EXPECT_EQ(lines().text("DESCRIPCION"), "");
+    // Nor is it by an empty key, though the price list stands on it.
+    station.messages.expectInformation(
+        "El tratamiento ya está registrado y tiene saldo pendiente, registre un abono.");
+    press(Qt::Key_Return);
     EXPECT_EQ(lines().text("DESCRIPCION"), "");
     typeText("31");
     press(Qt::Key_Return);

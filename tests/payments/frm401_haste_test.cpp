@@ -88,14 +88,19 @@ TEST_F(PaymentNoteHaste, AServiceChangedByArrowsCountsBeforeALineIsAdded) {
 }
 
 TEST_F(PaymentNoteHaste, AnotherAreaAsksForThePayerAgain) {
-    station.options.sector = Sector::Institucional;
     open();
     chooseService("AP");
     chooseArea("RADIO");
     station.messages.expectConfirmation(
         "Desea usar la información seleccionada de RICARDO NUÑEZ ARAGON ?", Answer::Yes);
-    write({"2/24"});
+    write({"2/24", "1100002"});
     EXPECT_TRUE(enabled("AgregarRegistro"));
+    // An area that is taken back is none.
+    tabTo("ComboBox2", false);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(text("ComboBox2"), "");
+    EXPECT_FALSE(enabled("AgregarRegistro"));
     tabTo("ComboBox2", false);
     typeText("ADUL");
     press(Qt::Key_Return);
@@ -103,8 +108,46 @@ TEST_F(PaymentNoteHaste, AnotherAreaAsksForThePayerAgain) {
     press(Qt::Key_Insert);
     EXPECT_EQ(lines().count(), 0);
     choosePlace("CLINICA INT");
-    EXPECT_FALSE(enabled("AgregarRegistro"));
     EXPECT_EQ(focused(), "Edit2");
+    // Neither the area nor the student of before lead to the lines.
+    EXPECT_FALSE(enabled("AgregarRegistro"));
+    EXPECT_FALSE(enabled("Matricula"));
+}
+
+TEST_F(PaymentNoteHaste, OnlyTheDossierThatWasTakenIsCharged) {
+    open();
+    chooseService("AP");
+    chooseArea("RADIO");
+    station.messages.expectConfirmation(
+        "Desea usar la información seleccionada de RICARDO NUÑEZ ARAGON ?", Answer::Yes);
+    write({"2/24", "1100002"});
+    addLine("1");
+    tabTo("Edit2", false);
+    typeText("1/24");
+    EXPECT_FALSE(enabled("AgregarRegistro"));
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(formaPago.isVisible());
+    // The number typed back brings the note back.
+    tabTo("Edit2", false);
+    press(Qt::Key_A, Qt::ControlModifier);
+    typeText("00002/24");
+    EXPECT_TRUE(enabled("Registrar"));
+    EXPECT_EQ(lines().count(), 1);
+    // What is no number of a student is told before anything is paid.
+    tabTo("Matricula");
+    press(Qt::Key_A, Qt::ControlModifier);
+    typeText("5-");
+    station.messages.expectError("La matrícula «5-» no es un número.");
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(lines().count(), 1);
+    EXPECT_TRUE(enabled("Registrar"));
+    // The list that is left takes the number off, and the note with it.
+    tabTo("Edit2", false);
+    press(Qt::Key_F5);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(text("Edit2"), "");
+    EXPECT_FALSE(enabled("Registrar"));
+    EXPECT_EQ(lines().count(), 1);
 }
 
 TEST_F(PaymentNoteHaste, AnEmployeeWhoIsNoneAfterAllPaysUnderHisNames) {
@@ -121,6 +164,18 @@ TEST_F(PaymentNoteHaste, AnEmployeeWhoIsNoneAfterAllPaysUnderHisNames) {
     press(Qt::Key_Return);
     EXPECT_EQ(focused(), "Paterno");
     EXPECT_FALSE(shown("PanelEmpleado"));
+    write({"lopez", "ruiz", "eva"});
+    // An employee once more, and no one again: neither keeps the other's names.
+    tabTo("ComboBox2", false);
+    station.messages.expectConfirmation("Es empleado?", Answer::Yes);
+    press(Qt::Key_F4);
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("Paterno") + text("Materno") + text("Nombre"), "");
+    tabTo("ComboBox2", false);
+    station.messages.expectConfirmation("Es empleado?", Answer::No);
+    station.messages.expectConfirmation("Es alumno regular?", Answer::No);
+    press(Qt::Key_F4);
+    press(Qt::Key_Return);
     write({"lopez", "ruiz", "eva"});
     addLine("1");
     inDialog(&formaPago, [] {

@@ -97,10 +97,10 @@ TEST_F(PaymentNoteLines, AnEmptyKeyTakesTheCurrentConcept) {
     press(Qt::Key_Return);
     EXPECT_EQ(column(), "DESCRIPCION");
     // The list is ordered by description; its first row is the current one.
-    const QVariant first =
-        test::valueOf(station.clinic(),
-                      "select first 1 descr from listaprecios where tipo_prod=6 order by descr");
-    EXPECT_EQ(lines().text("DESCRIPCION"), first.toString());
+    const QVariantList first = test::rowsOf(
+        station.clinic(),
+        "select first 1 cve_prod, descr from listaprecios where tipo_prod=6 order by descr")[0];
+    EXPECT_EQ(lines().text("DESCRIPCION"), first[1].toString());
     press(Qt::Key_Return);
     typeText("2");
     press(Qt::Key_Return);
@@ -110,6 +110,11 @@ TEST_F(PaymentNoteLines, AnEmptyKeyTakesTheCurrentConcept) {
     press(Qt::Key_Return);
     station.messages.expectInformation(
         "La clave ya se encuentra registrada, presione cualquier tecla para continuar.");
+    press(Qt::Key_Return);
+    EXPECT_EQ(column(), "CVE_PROD");
+    station.messages.expectInformation(
+        "La clave ya se encuentra registrada, presione cualquier tecla para continuar.");
+    typeText(first[0].toString());
     press(Qt::Key_Return);
     EXPECT_EQ(column(), "CVE_PROD");
     press(Qt::Key_Escape);
