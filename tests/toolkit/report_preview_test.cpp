@@ -144,6 +144,11 @@ TEST_F(Preview, PrintsSavesAndClosesByKeys) {
     press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(saved, 1);
     EXPECT_FALSE(notice->isVisible());
+    find<QPushButton>("pdfButton")->setFocus();
+    press(Qt::Key_Return);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(QApplication::focusWidget(), &held);
+    EXPECT_EQ(saved, 2);
     press(Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
 }

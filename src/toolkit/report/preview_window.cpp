@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -156,7 +157,9 @@ void PreviewWindow::addZoomTools(QHBoxLayout *row) {
 
 void PreviewWindow::buildShortcuts() {
     const auto on = [this](const QKeySequence &keys, auto handler) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, handler);
+        auto *shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, this, handler);
+        return shortcut;
     };
     on(Qt::Key_PageUp, [this] { showPage(page() - 1); });
     on(Qt::Key_PageDown, [this] { showPage(page() + 1); });
@@ -168,8 +171,20 @@ void PreviewWindow::buildShortcuts() {
     on(Qt::CTRL | Qt::Key_Minus, [this] { zoom(-1); });
     on(Qt::CTRL | Qt::Key_0, [this] { chooseZoom(fitPageIndex); });
     on(Qt::CTRL | Qt::Key_1, [this] { chooseZoom(fitWidthIndex); });
-    on(Qt::CTRL | Qt::Key_P, [this] { run(actions_.print); });
-    on(Qt::CTRL | Qt::Key_S, [this] { run(actions_.savePdf); });
+    // Held down, they would print again and again where nothing is asked.
+    on(Qt::CTRL | Qt::Key_P, [this] { run(actions_.print); })->setAutoRepeat(false);
+    on(Qt::CTRL | Qt::Key_S, [this] { run(actions_.savePdf); })->setAutoRepeat(false);
+}
+
+/// Enter presses the button that has the focus, as in all windows; a held one presses nothing.
+void PreviewWindow::keyPressEvent(QKeyEvent *event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    auto *focused = qobject_cast<QPushButton *>(focusWidget());
+    if (focused && !event->isAutoRepeat())
+        focused->click();
 }
 
 QListView *PreviewWindow::buildThumbnails() {

@@ -36,6 +36,9 @@ public:
     void showPage(int page);
     PageView *view() const { return view_; }
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void buildTools(QHBoxLayout *row);
     void addPageTools(QHBoxLayout *row);
