@@ -22,13 +22,13 @@ QList<int> codesOf(const ISC_STATUS *vector) {
     return codes;
 }
 
-QString messageOf(const ISC_STATUS *vector) {
+QStringList linesOf(const ISC_STATUS *vector) {
     QStringList lines;
     char buffer[1024];
     while (fb_interpret(buffer, sizeof buffer, &vector) > 0) {
         lines += QString::fromUtf8(buffer);
     }
-    return lines.join(QLatin1String(" - "));
+    return lines;
 }
 
 DatabaseFailure failureOf(const QList<int> &codes, const QString &engineMessage) {
@@ -100,14 +100,19 @@ void FirebirdStatus::check() const {
     DatabaseError::Details details;
     details.engineCodes = codesOf(vector_);
     details.sqlCode = isc_sqlcode(vector_);
-    details.engineMessage = messageOf(vector_);
+    const QStringList lines = linesOf(vector_);
+    details.engineMessage = lines.join(QLatin1String(" - "));
     details.failure = failureOf(details.engineCodes, details.engineMessage);
     details.connection = connection_;
     details.statement = statement_;
+    // A routine's own text stands behind the number and the name of its exception.
+    constexpr int raisedLine = 2;
+    if (details.failure == DatabaseFailure::Raised && lines.size() > raisedLine) {
+        throw DatabaseError(lines.at(raisedLine), details);
+    }
     const QString lead = leadOf(details.failure, connection_);
-    const QString message =
-        lead.isEmpty() ? details.engineMessage : lead + u'\n' + details.engineMessage;
-    throw DatabaseError(message, details);
+    throw DatabaseError(
+        lead.isEmpty() ? details.engineMessage : lead + u'\n' + details.engineMessage, details);
 }
 
 }  // namespace kaldo

@@ -106,8 +106,9 @@ TEST_F(FirebirdConnectionTest, FailuresAreToldApart) {
     EXPECT_FALSE(twice.details().engineMessage.isEmpty());
     EXPECT_EQ(failureOf("select nada from cosas", {}).details().sqlCode, -206);
     run(connection, "create exception negado 'No se puede.'");
-    EXPECT_EQ(failureOf("execute block as begin exception negado; end", {}).failure(),
-              DatabaseFailure::Raised);
+    const DatabaseError raised = failureOf("execute block as begin exception negado; end", {});
+    EXPECT_EQ(raised.failure(), DatabaseFailure::Raised);
+    EXPECT_EQ(raised.message(), "No se puede.") << "without the engine's number, name and place";
 }
 
 TEST_F(FirebirdConnectionTest, AnAttachThatFailsTellsWhich) {
