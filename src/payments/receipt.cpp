@@ -2,12 +2,12 @@
 
 #include "payments/amount_in_words.h"
 #include "payments/receipt_totals.h"
+#include "payments/service_types.h"
 #include "payments/tender.h"
 #include "people/names.h"
 #include "toolkit/core/text.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace kaldo {
 
@@ -18,11 +18,6 @@ constexpr int kLongAddress = 31;
 constexpr int kPolicyWidth = 20;
 /// Room for all rows of the totals.
 constexpr int kFullTotalsHeight = 120;
-
-bool isOneOf(const QString &code, std::initializer_list<const char *> codes) {
-    return std::any_of(codes.begin(), codes.end(),
-                       [&](const char *one) { return code == QLatin1StringView(one); });
-}
 
 void fillHeading(ReceiptContent *content, const ReceiptOptions &options) {
     const auto line = [&](const QString &text) {
@@ -77,7 +72,7 @@ bool fillIdentity(ReceiptContent *content, const NoteDraft &draft, const Receipt
         content->QRL17 = draft.alumno.trimmed();
         return true;
     }
-    if (!isOneOf(draft.tipoServ, {"AD", "CD", "LP", "OT", "PG", "VA"})) {
+    if (!receiptNamesPayer(draft.tipoServ)) {
         content->identified = false;
         return false;
     }

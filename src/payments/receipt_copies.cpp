@@ -1,7 +1,5 @@
 #include "payments/receipt_copies.h"
 
-#include <algorithm>
-
 namespace kaldo {
 
 QList<PlannedCopy> plannedCopies(const QList<ReceiptCopy> &rows, NoteMode mode,
@@ -11,8 +9,7 @@ QList<PlannedCopy> plannedCopies(const QList<ReceiptCopy> &rows, NoteMode mode,
     if (previews && options.duplicadoDeImpresiones == 0) {
         return copies;
     }
-    const qsizetype count = std::clamp<qsizetype>(options.totalRecibos, 0, rows.size());
-    for (const ReceiptCopy &row : rows.first(count)) {
+    for (const ReceiptCopy &row : rows) {
         const QString only = row.tipoServ.trimmed();
         if (previews) {
             copies.append({row.descripcion.trimmed(), CopyTarget::Preview});

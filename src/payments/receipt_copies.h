@@ -15,7 +15,6 @@ struct ReceiptCopy {
 };
 
 struct CopyOptions {
-    int totalRecibos = 0;  ///< 0 prints none
     bool desactivarDuplicados = false;
     int duplicadoDeImpresiones = 0;  ///< 0: a consulted note is not shown again
 };
@@ -29,9 +28,9 @@ struct PlannedCopy {
     bool operator==(const PlannedCopy &) const = default;
 };
 
-/// Which copies of a note come out, and where. `rows` in the order of `recibo`; `servicio` is the
-/// text of the service type list. A consulted note goes to the preview, every copy of it, unless
-/// duplicates are switched off: then it prints like a new one.
+/// Which copies of a note come out, and where. `rows` in the order of `recibo`, none of them prints
+/// none; `servicio` is the text of the service type list. A consulted note goes to the preview,
+/// every copy of it, unless duplicates are switched off: then it prints like a new one.
 QList<PlannedCopy> plannedCopies(const QList<ReceiptCopy> &rows, NoteMode mode,
                                  const QString &servicio, const CopyOptions &options);
 

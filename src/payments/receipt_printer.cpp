@@ -68,7 +68,6 @@ void ReceiptPrinter::Recibos(const NoteDraft &draft) {
     const QString title = QStringLiteral("Recibo de Pago");
     const QList<ReceiptCopy> rows = rowsOf(context_.local.Recibos);
     CopyOptions options;
-    options.totalRecibos = static_cast<int>(rows.size());
     options.desactivarDuplicados = context_.options.DesactivarDuplicados;
     options.duplicadoDeImpresiones = context_.options.SegundosDuplicado;
     for (const PlannedCopy &copy : plannedCopies(rows, draft.mode, draft.servicio, options)) {

@@ -71,6 +71,10 @@ bool chargesDossier(const QString &tipoServ) {
     return isOneOf(tipoServ, {"AE", "AP", "ES", "LE"});
 }
 
+bool receiptNamesPayer(const QString &tipoServ) {
+    return isOneOf(tipoServ, {"AD", "CD", "LP", "OT", "PG", "VA"});
+}
+
 bool skipsDialogWhenCovered(const QString &tipoServ) {
     return isOneOf(tipoServ, {"AE", "AP", "LE"});
 }

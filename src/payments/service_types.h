@@ -31,6 +31,9 @@ bool namesLeadToLines(const QString &tipoServ);
 /// AE, AP, ES, LE: the note is the patient's, whatever student or employee stands beside.
 bool chargesDossier(const QString &tipoServ);
 
+/// AD, CD, LP, OT, PG, VA: without dossier and student the receipt names the payer.
+bool receiptNamesPayer(const QString &tipoServ);
+
 /// AE, AP, LE: with a benefit of 100 % nothing is paid and the payment dialog is skipped.
 bool skipsDialogWhenCovered(const QString &tipoServ);
 
