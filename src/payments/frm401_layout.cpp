@@ -254,11 +254,11 @@ form::Item FRM401::patientItems() {
                    .options({QStringLiteral("Femenino"), QStringLiteral("Masculino")})
                    .clicked([this](int) { elegirSexo(); }),
                stretch()});
-    auto benefit = strip(
-        &panelEmpleado_, QStringLiteral("PanelEmpleado"),
-        {label(QStringLiteral("Empleado:")), label(&empleado_, QStringLiteral("Empleado")).bold(),
-         label(QStringLiteral("Dependencia:")),
-         label(&dependencia_, QStringLiteral("Dependencia")).bold().grow()});
+    auto benefit = strip(&panelEmpleado_, QStringLiteral("PanelEmpleado"),
+                         {label(QStringLiteral("Empleado:")),
+                          label(&empleado_, QStringLiteral("Empleado")).bold().grow(),
+                          label(QStringLiteral("Dependencia:")),
+                          label(&dependencia_, QStringLiteral("Dependencia")).bold().grow()});
     // Enabled and disabled as one for the path of the service; the birth strip and the employee's
     // benefit never stand together and share their row.
     return column(
@@ -345,7 +345,7 @@ void FRM401::keepRoomWhenHidden() {
     for (QWidget *panel : {panelEncabezado_, panelPaciente_, panelOtros_, panelDatos_}) {
         panel->setSizePolicy(panel->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
     }
-    for (QLabel *name : {cajero_, centro_, origen_, dependencia_}) {
+    for (QLabel *name : {cajero_, centro_, origen_, empleado_, dependencia_}) {
         name->setSizePolicy(QSizePolicy::Ignored, name->sizePolicy().verticalPolicy());
     }
 }

@@ -1,3 +1,5 @@
+#include <QScopeGuard>
+
 #include <limits>
 
 #include "data/runtime_texts.h"
@@ -329,8 +331,10 @@ void FRM401::cancelarRegistro() {
 void FRM401::borrarRegistro() {
     NamedQuery &table = context().local.FBDetalleVtas;
     if (messages().confirm(QStringLiteral("¿Desea borrar este concepto?")) == Answer::Yes) {
+        auto backAgain = qScopeGuard([&table] { table.cancelUpdates(); });
         table.remove();
         table.apply();
+        backAgain.dismiss();
         table.reopen();
     }
     if (table.isEmpty()) {

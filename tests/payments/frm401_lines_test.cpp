@@ -12,6 +12,16 @@ using test::picture;
 using test::press;
 using test::typeText;
 
+/// Refuses whatever would be written.
+class FullDisk final : public Seam {
+public:
+    void beforeCommit(const Execution &execution) override {
+        if (execution.writes) {
+            throw std::runtime_error("No hay espacio en el disco.");
+        }
+    }
+};
+
 class PaymentNoteLines : public test::PaymentNoteFixture {
 protected:
     PaymentNoteLines() {
@@ -231,6 +241,14 @@ TEST_F(PaymentNoteLines, CancellingAndDeletingGiveTheListsBack) {
     station.messages.expectConfirmation("¿Desea borrar este concepto?", Answer::No);
     press(Qt::Key_Delete, Qt::ControlModifier);
     EXPECT_EQ(stored().size(), 2);
+    // A line that stays in the table stays on the screen.
+    FullDisk full;
+    station.conexion.FBLocal.setSeam(&full);
+    station.messages.expectConfirmation("¿Desea borrar este concepto?", Answer::Yes);
+    station.messages.expectError("No hay espacio en el disco.");
+    press(Qt::Key_Delete, Qt::ControlModifier);
+    station.conexion.FBLocal.setSeam(nullptr);
+    EXPECT_EQ(lines().count(), 2);
     for (int left = 1; left >= 0; --left) {
         station.messages.expectConfirmation("¿Desea borrar este concepto?", Answer::Yes);
         press(Qt::Key_Delete, Qt::ControlModifier);

@@ -177,6 +177,13 @@ TEST_F(PaymentNoteRegistration, EveryFieldHasANameAndAllFitsTheSmallestDesktop) 
     for (const Sector sector : {Sector::Educativo, Sector::Institucional, Sector::Empresarial}) {
         station.options.sector = sector;
         open();
+        // However long the names are.
+        for (const char *panel : {"PanelEmpleado", "PanelOrigen"}) {
+            child<QWidget>(screen.get(), panel)->show();
+        }
+        for (const char *name : {"Cajero", "Centro", "Origen", "Empleado", "Dependencia"}) {
+            child<QLabel>(screen.get(), name)->setText(QString(100, 'W'));
+        }
         EXPECT_LE(screen->minimumSizeHint().width(), 1000);
         EXPECT_LE(screen->minimumSizeHint().height(), 620);
         const QList<QWidget *> all = screen->findChildren<QWidget *>();
