@@ -6,6 +6,8 @@
 
 #include <QFile>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
 
 // A static library keeps its resources only if someone asks for them, from outside any namespace.
 static void loadIcons() {
@@ -68,6 +70,15 @@ bool Button::event(QEvent *event) {
         return true;
     }
     return QPushButton::event(event);
+}
+
+void Button::mouseReleaseEvent(QMouseEvent *event) {
+    // A press and a release that come in one batch find the field that was left still unheard.
+    const QPointer<Button> self(this);
+    FocusKeeper::get().settle();
+    if (self) {
+        QPushButton::mouseReleaseEvent(event);
+    }
 }
 
 void Button::keyPressEvent(QKeyEvent *event) {

@@ -11,8 +11,8 @@ namespace kaldo {
 QIcon iconNamed(const QString &name);
 
 /// A push button. Never a default of its dialog by itself; a fresh Enter or Space on it presses it,
-/// a repeated one does nothing. Alt and its letter take the focus to it first, so that the field
-/// that had it is left; if that keeps the focus, nothing is pressed.
+/// a repeated one does nothing. The field that had the focus is left before a press, by whatever it
+/// comes: Enter, Alt and its letter, the mouse; if that keeps the focus, nothing is pressed.
 class Button : public QPushButton {
     Q_OBJECT
 
@@ -22,6 +22,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
