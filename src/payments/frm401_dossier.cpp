@@ -10,17 +10,7 @@ namespace kaldo {
 void FRM401::repetirExpediente() {
     if (!Edit2_->isReadOnly() && !session().UltimoExpediente.text().isEmpty()) {
         Edit2_->setText(session().UltimoExpediente.text());
-        expedienteCambiado();
-    }
-}
-
-/// Only the dossier that was accepted is charged; its number typed back brings the note back.
-void FRM401::expedienteCambiado() {
-    if (payerMissing()) {
-        agregar_->setEnabled(false);
-        registrar_->setEnabled(false);
-    } else if (!Editando_ && !context().local.FBDetalleVtas.isEmpty()) {
-        NoEditar();
+        pagadorCambiado();
     }
 }
 
@@ -270,7 +260,7 @@ void FRM401::tomarExpediente() {
 
 void FRM401::cancelarLista() {
     Edit2_->clear();
-    expedienteCambiado();
+    pagadorCambiado();
     hideDossierList();
     moveFocus(Edit2_);
 }

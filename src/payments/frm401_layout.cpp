@@ -184,7 +184,7 @@ form::Item FRM401::patientItems() {
              .width(8)
              .key(Qt::Key_F5, [this] { consultarExpedientes_->click(); })
              .key(Qt::Key_F8, [this] { repetirExpediente(); })
-             .edited([this] { expedienteCambiado(); })
+             .edited([this] { pagadorCambiado(); })
              .enter([this] { buscarExpediente(); }),
          iconButton(&consultarExpedientes_, QStringLiteral("ConsultarExpedientes"),
                     QStringLiteral("Consultar Expedientes F5"), QStringLiteral("search"))
@@ -235,7 +235,8 @@ form::Item FRM401::patientItems() {
               {text(&noEmpleado_, QStringLiteral("NoEmpleado"), QStringLiteral("No. Empleado"))
                    .digits()
                    .width(10)
-                   .enter([this] { buscarEmpleado(); }),
+                   .enter([this] { buscarEmpleado(); })
+                   .edited([this] { pagadorCambiado(); }),
                text(&nombreEmpleado_, QStringLiteral("NombreEmpleado"), QStringLiteral("Nombre"))
                    .width(100)
                    .readOnly()

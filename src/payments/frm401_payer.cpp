@@ -26,10 +26,24 @@ void FRM401::readyForLines() {
     moveFocus(agregar_);
 }
 
-/// A note of the clinic is charged to a dossier and to nobody else.
+/// A note of the clinic is charged to the dossier that was accepted and to nobody else, an
+/// employee's to the one who was found.
 bool FRM401::payerMissing() const {
-    return payerPath(TipoServ_) == PayerPath::Dossier &&
-           (expedienteTomado_.isEmpty() || Edit2_->text() != expedienteTomado_);
+    if (payerPath(TipoServ_) == PayerPath::Dossier) {
+        return expedienteTomado_.isEmpty() || Edit2_->text() != expedienteTomado_;
+    }
+    return !panelNoEmpleado_->isHidden() &&
+           (NumEmpleado_ == 0 || employeeNumber(noEmpleado_->text()) != NumEmpleado_);
+}
+
+/// A note whose payer's number is typed over waits until it is accepted or typed back.
+void FRM401::pagadorCambiado() {
+    if (payerMissing()) {
+        agregar_->setEnabled(false);
+        registrar_->setEnabled(false);
+    } else if (!Editando_ && !context().local.FBDetalleVtas.isEmpty()) {
+        NoEditar();
+    }
 }
 
 void FRM401::enterPaterno() {
@@ -192,7 +206,7 @@ void FRM401::buscarEmpleado() {
             QStringLiteral("El empleado no se encuentra vigente. Verifique su información."));
         LimpiaEmpleado();
         noEmpleado_->clear();
-        agregar_->setEnabled(false);
+        pagadorCambiado();
         stayHere();
         return;
     }
@@ -206,6 +220,7 @@ void FRM401::buscarEmpleado() {
     empleado_->setText(employeeLabel(NumEmpleado_, employee->nombre));
     dependencia_->setText(dependencyLabel(employee->cveUnida, employee->descripcion));
     panelEmpleado_->setVisible(true);
+    pagadorCambiado();
     readyForLines();
 }
 

@@ -94,7 +94,6 @@ private:
     void hideDossierList();
     void cancelarLista();
     void repetirExpediente();
-    void expedienteCambiado();
     void forgetDossier();
     void refuseDossier();
     void alternarFiltro();
@@ -137,6 +136,7 @@ private:
     void clearClave();
     void readyForLines();
     bool payerMissing() const;
+    void pagadorCambiado();
     void descripcionAdicional();
 
     // Registering

@@ -260,6 +260,22 @@ TEST_F(PaymentNotePayer, VariousServicesAskForAnEmployeeFirst) {
         EXPECT_EQ(station.caja.Prestaciones1.integer("prestacion"), 5);
         EXPECT_EQ(focused(), "AgregarRegistro");
         picture(screen.get(), "payer-employee");
+        // Only the employee who was found pays.
+        addLine("1");
+        tabTo("NoEmpleado", false);
+        typeText("1001");
+        EXPECT_FALSE(enabled("Registrar"));
+        station.messages.expectInformation(
+            "El empleado no se encuentra vigente. Verifique su información.");
+        press(Qt::Key_A, Qt::ControlModifier);
+        typeText("7");
+        press(Qt::Key_Return);
+        EXPECT_FALSE(enabled("Registrar"));
+        typeText("2001");
+        press(Qt::Key_Return);
+        EXPECT_TRUE(enabled("Registrar"));
+        EXPECT_EQ(focused(), "AgregarRegistro");
+        EXPECT_EQ(lines().count(), 1);
         screen.reset();
     }
 }
