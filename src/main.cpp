@@ -8,8 +8,14 @@
 #include <QTextStream>
 #include <QTranslator>
 
+#include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <cstring>
+
+#if defined(Q_OS_LINUX)
+#include <langinfo.h>
+#endif
 
 namespace {
 
@@ -33,6 +39,17 @@ bool lacksDesktop(const QStringList &arguments) {
 #else
     Q_UNUSED(arguments)
     return false;
+#endif
+}
+
+/// The database engine takes the names of files by the machine's locale: one that hasn't all
+/// letters would keep it from a folder called "José".
+void nameLocale() {
+#if defined(Q_OS_LINUX)
+    std::setlocale(LC_CTYPE, "");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) {
+        qputenv("LC_ALL", "C.UTF-8");
+    }
 #endif
 }
 
@@ -65,6 +82,7 @@ int main(int argc, char **argv) {
             stderr);
         return 1;
     }
+    nameLocale();
     kaldo::Application application(argc, argv);
     Q_INIT_RESOURCE(icons);
     QCoreApplication::setApplicationName(QStringLiteral("kaldo"));
