@@ -94,13 +94,13 @@ Band titleBand(const ReceiptContent &content, const QString &copyDescription) {
     LabelBand band(content.lugarShown ? 297 : 265);
     band.paragraph(1, kLeft, kWidth, 30, content.QRL1, centred.bold());
     band.paragraph(31, kLeft, kWidth, 15, content.QRL2, centred);
-    band.label(46, kInset, kWidth, content.QRL3, centred);
+    band.paragraph(46, kInset, kWidth, 15, content.QRL3, centred);
     if (content.longAddress) {
         band.paragraph(66, kLeft, kWidth, 32, content.QRL4, centred.bold());
     } else {
         band.paragraph(85, kLeft, kWidth, 14, content.QRL4, centred.bold());
     }
-    band.label(103, kLeft, kWidth, content.QRL5, centred);
+    band.paragraph(103, kLeft, kWidth, 15, content.QRL5, centred);
     band.paragraph(120, kLeft, kWidth, 17, content.QRL6, centred);
     band.paragraph(137, kLeft, kWidth, 20, copyDescription, centred.size(10).bold());
     band.label(157, 14, 117, QStringLiteral("CENTRO DE ATENCION"), Style().bold());

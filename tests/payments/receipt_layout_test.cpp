@@ -119,6 +119,8 @@ TEST(ReceiptLayout, LongTextsNeverCoverOthers) {
     options.contabilidadGubernamental = true;
     options.nombreCliente = QString("Universidad del Valle ").repeated(5);
     options.direccion = QString("Avenida de la Reforma Universitaria ").repeated(4);
+    options.tel = QString("(612) 555-0100 ext. 12, ").repeated(4);
+    options.rfc = QString(40, 'W');
     options.nombreCorto = QString(60, 'W');
     Payment payment = paidWith(draft, 0, 0, 999999999.99);
     payment.importeAPagar = 777777777.77;
