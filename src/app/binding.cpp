@@ -32,9 +32,8 @@ std::function<void(const QVariant &)> follow(F *field, NamedQuery *query, const 
     refresh();
     return [query, column, writing](const QVariant &value) {
         *writing = true;
-        const bool well = runGuarded([&] { query->set(column, value); });
+        runGuarded([&] { query->set(column, value); });
         *writing = false;
-        static_cast<void>(well);
     };
 }
 

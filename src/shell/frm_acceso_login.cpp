@@ -143,8 +143,8 @@ void FRMAcceso::activated() {
         const QString remembered = context().ini.value(kUsuario, QStringLiteral("user"));
         Edit1_->setText(remembered);
         CheckBox1_->setChecked(!remembered.isEmpty());
+        BitBtn4_->hide();  // it needs a code that was typed
         if (!remembered.trimmed().isEmpty() && remembered.trimmed() == session().Usuario.text()) {
-            BitBtn4_->hide();
             moveFocus(Edit2_);
         }
     }

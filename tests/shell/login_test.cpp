@@ -363,6 +363,7 @@ TEST(Password, IsChangedByItsOwner) {
                 });
             EXPECT_FALSE(station.stillOpen);
             EXPECT_TRUE(child<QLineEdit>(&station.login(), "Edit2")->hasFocus());
+            EXPECT_FALSE(change->isVisible()) << "the code in its field was not typed";
         });
     EXPECT_EQ(
         station.clinicValue("select pass from controlusuarios where usuario='cajero1'").toString(),

@@ -35,7 +35,6 @@ public:
     bool keepsPrinter() const override { return printer_; }
 
     QStringList log;
-    bool fails = false;
 
 protected:
     void formCreate() override {
