@@ -1,5 +1,6 @@
 #include "payments/receipt_printer.h"
 
+#include "data/query_rows.h"
 #include "payments/receipt_copies.h"
 #include "payments/receipt_layout.h"
 
@@ -44,13 +45,11 @@ QList<ReceiptCopy> rowsOf(NamedQuery &recibos) {
     if (!recibos.isOpen()) {
         recibos.open();
     }
-    QList<ReceiptCopy> rows;
-    for (int row = 0, count = recibos.count(); row < count; ++row) {
-        rows.append({recibos.valueAt(row, QStringLiteral("recibo")).toInt(),
-                     recibos.valueAt(row, QStringLiteral("descripcion")).toString(),
-                     recibos.valueAt(row, QStringLiteral("tipo_serv")).toString()});
-    }
-    return rows;
+    return mapRows(recibos, [](const QueryRow &row) {
+        return ReceiptCopy{row.value(QStringLiteral("recibo")).toInt(),
+                           row.text(QStringLiteral("descripcion")),
+                           row.text(QStringLiteral("tipo_serv"))};
+    });
 }
 
 }  // namespace
