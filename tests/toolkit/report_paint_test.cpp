@@ -170,6 +170,29 @@ TEST_F(ReportFiles, PicturesOfEveryKindArePaintedAndMissingOnesLeftOut) {
     EXPECT_LT(scaled->image.width(), 200) << "no more than the printer shows";
 }
 
+TEST_F(ReportFiles, LogoOfEveryPageIsStoredOnce) {
+    QImage scan(1200, 1200, QImage::Format_RGB32);
+    scan.fill(Qt::darkCyan);
+    Layout layout(PageSetup::letter());
+    layout.pageHeader(20.0, [logo = Picture::fromImage(scan)](Band &band, const PageInfo &) {
+        band.picture({0.0, 0.0, 20.0, 20.0}, logo);
+    });
+    for (int page = 1; page <= 3; ++page) {
+        layout.place(Band(10.0).text({0.0, 0.0, 40.0, 4.0}, QStringLiteral("una página")));
+        layout.newPage();
+    }
+    writePdf(layout.finish(), path("logos.pdf"), QString());
+    static const QRegularExpression imageLine(QStringLiteral("^ +\\d+ +\\d+ image .* (\\d+) +0 "),
+                                              QRegularExpression::MultilineOption);
+    const QString list = QString::fromUtf8(
+        output(QStringLiteral("pdfimages"), {QStringLiteral("-list"), path("logos.pdf")}));
+    QStringList objects;
+    for (auto it = imageLine.globalMatch(list); it.hasNext();)
+        objects << it.next().captured(1);
+    ASSERT_GE(objects.size(), 3) << qPrintable(list);
+    EXPECT_EQ(objects.count(objects.first()), objects.size()) << qPrintable(list);
+}
+
 TEST_F(ReportFiles, FailuresAreTold) {
     const Document document = sample(1);
     const QString blocked = path("none/a.pdf");

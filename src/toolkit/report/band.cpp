@@ -17,7 +17,7 @@ namespace {
 /// Scanned logos come in sizes that no printer shows and every PDF file would carry.
 constexpr double pictureDotsPerMm = 300.0 / 25.4;
 
-QImage atPrintSize(const QImage &image, const QSizeF &boxMm) {
+QImage scaledToPrint(const QImage &image, const QSizeF &boxMm) {
     const QSize wanted(static_cast<int>(std::ceil(boxMm.width() * pictureDotsPerMm)),
                        static_cast<int>(std::ceil(boxMm.height() * pictureDotsPerMm)));
     const QSize fitted = image.size().scaled(wanted, Qt::KeepAspectRatio);
@@ -47,6 +47,7 @@ Picture Picture::load(const QString &path) {
 Picture Picture::fromImage(const QImage &image) {
     Picture result;
     result.image_ = image;
+    result.scaled_ = std::make_shared<Scaled>();
     return result;
 }
 
@@ -54,6 +55,14 @@ Picture Picture::fromSvg(const QByteArray &svg) {
     Picture result;
     result.svg_ = svg;
     return result;
+}
+
+QImage Picture::atPrintSize(const QSizeF &boxMm) const {
+    if (image_.isNull())
+        return {};
+    if (scaled_->box != boxMm)
+        *scaled_ = {boxMm, scaledToPrint(image_, boxMm)};
+    return scaled_->image;
 }
 
 Band &Band::text(const QRectF &rect, const QString &text, const Style &style) {
@@ -99,8 +108,8 @@ Band &Band::box(const QRectF &rect, double penMm, const QColor &fill) {
 Band &Band::picture(const QRectF &rect, const Picture &picture) {
     if (!picture.svg().isEmpty())
         items_.emplace_back(Drawing{rect, picture.svg()});
-    else if (!picture.image().isNull())
-        items_.emplace_back(Image{rect, atPrintSize(picture.image(), rect.size())});
+    else if (!picture.isEmpty())
+        items_.emplace_back(Image{rect, picture.atPrintSize(rect.size())});
     return *this;
 }
 

@@ -28,12 +28,22 @@ public:
     static Picture fromSvg(const QByteArray &svg);
 
     bool isEmpty() const { return image_.isNull() && svg_.isEmpty(); }
-    const QImage &image() const { return image_; }
     const QByteArray &svg() const { return svg_; }
 
+    /// The picture with as many dots as a box of this size in millimetres shows on paper, never
+    /// more than it has. The same image each time for the same size: a logo on every page is scaled
+    /// once, and a PDF file carries it once. Copies share it.
+    QImage atPrintSize(const QSizeF &boxMm) const;
+
 private:
+    struct Scaled {
+        QSizeF box;
+        QImage image;
+    };
+
     QImage image_;
     QByteArray svg_;
+    std::shared_ptr<Scaled> scaled_;  ///< to the size that was last asked for
 };
 
 /// A strip of a page while it is filled. Positions are in millimetres from its upper left corner;

@@ -2,10 +2,13 @@
 
 #include "toolkit/report/layout.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QTextLayout>
 
 #include <algorithm>
+#include <memory>
 
 namespace kaldo::report {
 
@@ -57,31 +60,88 @@ QStringList wrapped(const QString &paragraph, double width, const QFont &font, W
     return lines;
 }
 
-/// A line and its width in the units that fonts are measured in; each is measured once, since
-/// measuring is most of what laying a report out costs.
+/// A font as it was measured. Measuring is most of what laying a report out costs, and a list says
+/// the same few concepts and amounts over and over.
+class MeasuredFont {
+public:
+    explicit MeasuredFont(const QFont &font)
+        : font_(font),
+          metrics_(font),
+          ascent_(metrics_.ascent()),
+          spacing_(metrics_.lineSpacing()) {}
+
+    // In the units that fonts are measured in.
+    double ascent() const { return ascent_; }
+    double spacing() const { return spacing_; }
+    double advance(const QString &text) {
+        if (const auto known = advances_.constFind(text); known != advances_.cend())
+            return *known;
+        constexpr qsizetype remembered = 4096;
+        if (advances_.size() == remembered)
+            advances_.clear();
+        return *advances_.insert(text, metrics_.horizontalAdvance(text));
+    }
+
+    const QFont &font() const { return font_; }
+    const QFontMetricsF &metrics() const { return metrics_; }
+
+private:
+    QFont font_;
+    QFontMetricsF metrics_;
+    double ascent_;
+    double spacing_;
+    QHash<QString, double> advances_;
+};
+
+/// The fonts measured so far; they go with the application, as every font must.
+MeasuredFont &measuredFont(const Style &style) {
+    struct Entry {
+        QString family;
+        double points;
+        bool isBold;
+        bool isItalic;
+        std::unique_ptr<MeasuredFont> font;
+    };
+    static std::vector<Entry> entries;
+    for (const Entry &entry : entries) {
+        if (entry.points == style.points && entry.isBold == style.isBold &&
+            entry.isItalic == style.isItalic && entry.family == style.family)
+            return *entry.font;
+    }
+    if (entries.empty())
+        qAddPostRoutine([] { entries.clear(); });
+    entries.push_back({style.family, style.points, style.isBold, style.isItalic,
+                       std::make_unique<MeasuredFont>(textFont(style))});
+    return *entries.back().font;
+}
+
+/// A line and its width in the units that fonts are measured in.
 struct MeasuredLine {
     QString text;
     double width;
 };
 
-std::vector<MeasuredLine> linesOf(const QString &text, double width, const QFont &font,
-                                  const QFontMetricsF &metrics, Wrap wrap) {
+std::vector<MeasuredLine> linesOf(const QString &text, double width, MeasuredFont &font,
+                                  Wrap wrap) {
     QString clean = printable(text);
     if (wrap == Wrap::Elide) {
         clean.replace(QLatin1Char('\n'), QLatin1Char(' '));
-        const QString elided = metrics.elidedText(clean, Qt::ElideRight, width);
-        return {{elided, metrics.horizontalAdvance(elided)}};
+        const double advance = font.advance(clean);
+        if (advance <= width)
+            return {{clean, advance}};
+        const QString elided = font.metrics().elidedText(clean, Qt::ElideRight, width);
+        return {{elided, font.advance(elided)}};
     }
     std::vector<MeasuredLine> lines;
     const QStringList paragraphs = clean.split(QLatin1Char('\n'));
     for (const QString &paragraph : paragraphs) {
-        const double advance = metrics.horizontalAdvance(paragraph);
+        const double advance = font.advance(paragraph);
         if (wrap == Wrap::None || advance <= width) {
             lines.push_back({paragraph, advance});
             continue;
         }
-        for (const QString &line : wrapped(paragraph, width, font, wrap)) {
-            lines.push_back({line, metrics.horizontalAdvance(line)});
+        for (const QString &line : wrapped(paragraph, width, font.font(), wrap)) {
+            lines.push_back({line, font.advance(line)});
         }
     }
     return lines;
@@ -105,13 +165,11 @@ std::vector<TextLine> shapeText(const QString &text, double widthMm, const Style
     std::vector<TextLine> result;
     if (text.isEmpty())
         return result;
-    const QFont font = textFont(style);
-    const QFontMetricsF metrics(font);
-    const double ascent = metrics.ascent() / textUnitsPerMm;
-    const double spacing = metrics.lineSpacing() / textUnitsPerMm;
+    MeasuredFont &font = measuredFont(style);
+    const double ascent = font.ascent() / textUnitsPerMm;
+    const double spacing = font.spacing() / textUnitsPerMm;
     double top = 0.0;
-    for (const MeasuredLine &line :
-         linesOf(text, widthMm * textUnitsPerMm, font, metrics, style.wrapping)) {
+    for (const MeasuredLine &line : linesOf(text, widthMm * textUnitsPerMm, font, style.wrapping)) {
         const double width = line.width / textUnitsPerMm;
         result.push_back(
             {line.text, QPointF(leftEnd(widthMm, width, style.align), top + ascent), width});
@@ -128,18 +186,18 @@ void keepLinesThatFit(std::vector<TextLine> &lines, const QSizeF &box, const Sty
         return;
     lines.resize(keep);
     TextLine &last = lines.back();
-    const QFontMetricsF metrics(textFont(style));
+    MeasuredFont &font = measuredFont(style);
     const double room = box.width() * textUnitsPerMm;
     QString text = last.text;
-    while (!text.isEmpty() && metrics.horizontalAdvance(text + QChar(0x2026)) > room)
+    while (!text.isEmpty() && font.metrics().horizontalAdvance(text + QChar(0x2026)) > room)
         text.chop(1);
     last.text = text + QChar(0x2026);
-    last.width = metrics.horizontalAdvance(last.text) / textUnitsPerMm;
+    last.width = font.advance(last.text) / textUnitsPerMm;
     last.baseline.setX(leftEnd(box.width(), last.width, style.align));
 }
 
 double textWidth(const QString &text, const Style &style) {
-    return QFontMetricsF(textFont(style)).horizontalAdvance(text) / textUnitsPerMm;
+    return measuredFont(style).advance(text) / textUnitsPerMm;
 }
 
 double textHeight(const QString &text, double widthMm, const Style &style) {
@@ -148,7 +206,7 @@ double textHeight(const QString &text, double widthMm, const Style &style) {
 }
 
 double lineHeight(const Style &style) {
-    return QFontMetricsF(textFont(style)).lineSpacing() / textUnitsPerMm;
+    return measuredFont(style).spacing() / textUnitsPerMm;
 }
 
 }  // namespace kaldo::report
