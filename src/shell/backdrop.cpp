@@ -1,6 +1,7 @@
 #include "shell/backdrop.h"
 
 #include "toolkit/forms/button.h"
+#include "toolkit/forms/picture_file.h"
 
 #include <QFileInfo>
 #include <QImage>
@@ -92,7 +93,7 @@ QSize Backdrop::pictureSize() const {
 void Backdrop::readPicture() {
     // Of a picture with a palette scaling would give one of a coarser palette, full of dots.
     stretched_ = QPixmap::fromImage(
-        QImage(file_)
+        loadPicture(file_)
             .convertToFormat(QImage::Format_ARGB32_Premultiplied)
             .scaled(pictureSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     if (stretched_.isNull()) {

@@ -6,6 +6,7 @@
 #include "shell/update_check.h"
 #include "toolkit/core/text.h"
 #include "toolkit/forms/form.h"
+#include "toolkit/forms/picture_file.h"
 
 #include <QPixmap>
 #include <QTimer>
@@ -83,7 +84,8 @@ void FRMAcceso::build() {
         }));
     const qreal ratio = devicePixelRatioF();
     const QSize size(kPicture, kPicture);
-    QPixmap picture(context().installation.map(QStringLiteral("C:/KALDO/Images/KALDO/user.png")));
+    QPixmap picture = QPixmap::fromImage(
+        loadPicture(context().installation.map(QStringLiteral("C:/KALDO/Images/KALDO/user.png"))));
     if (picture.isNull()) {
         picture = iconNamed(QStringLiteral("user")).pixmap(size, ratio);
     } else if (picture.size() != size * ratio) {

@@ -1,9 +1,8 @@
 #include "shell/frm_control_panel.h"
 
 #include "shell/frm000_main_window.h"
+#include "toolkit/forms/picture_file.h"
 
-#include <QFileInfo>
-#include <QImageReader>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -118,10 +117,9 @@ void FRMControlPanel::showCounters() {
 void FRMControlPanel::showLogos() {
     const bool present = !logos_[0].path.isEmpty();
     for (const Logo &logo : logos_) {
-        const QString file = context().installation.map(logo.path);
         QPixmap picture;
-        if (present && QFileInfo(file).isFile()) {
-            picture.load(file);
+        if (present) {
+            picture = QPixmap::fromImage(loadPicture(context().installation.map(logo.path)));
         }
         if (!picture.isNull()) {
             const qreal ratio = devicePixelRatioF();
@@ -294,7 +292,7 @@ void FRMControlPanel::chooseLogo(int logo) {
     if (file.isEmpty()) {
         return;
     }
-    if (!QImageReader(file).canRead()) {
+    if (loadPicture(file).isNull()) {
         messages().warning(
             QStringLiteral("El archivo %1 no es una imagen que se pueda mostrar.").arg(file));
         return;

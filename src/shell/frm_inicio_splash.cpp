@@ -2,6 +2,7 @@
 
 #include "shell/version.h"
 #include "toolkit/forms/button.h"
+#include "toolkit/forms/picture_file.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -40,7 +41,7 @@ void FRMInicio::formCreate(IniFile &ini) {
 
 void FRMInicio::readPicture() {
     if (!std::exchange(read_, true)) {
-        picture_.load(file_, "PNG");
+        picture_ = QPixmap::fromImage(loadPicture(file_));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "shell/version.h"
 #include "toolkit/forms/form.h"
+#include "toolkit/forms/picture_file.h"
 
 #include <QPixmap>
 
@@ -34,12 +35,12 @@ void FRMVersion::build() {
                            .escape()
                            .clicked([this] { reject(); })}),
               }));
-    loadPicture();
+    showPicture();
 }
 
-void FRMVersion::loadPicture() {
-    QPixmap picture(
-        context().installation.map(QStringLiteral("C:\\KALDO\\images\\KALDO\\kaldo.png")));
+void FRMVersion::showPicture() {
+    QPixmap picture = QPixmap::fromImage(loadPicture(
+        context().installation.map(QStringLiteral("C:\\KALDO\\images\\KALDO\\kaldo.png"))));
     if (picture.isNull()) {
         picture = iconNamed(QStringLiteral("logo"))
                       .pixmap(QSize(kDrawing, kDrawing), devicePixelRatioF());

@@ -17,7 +17,7 @@ protected:
     void build() override;
 
 private:
-    void loadPicture();
+    void showPicture();
 
     QLabel *Image1_ = nullptr;
 };

@@ -1,8 +1,11 @@
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "forms_sample.h"
 #include "tests/support/accessibility.h"
 #include "tests/support/keys.h"
+#include "toolkit/forms/picture_file.h"
 
 namespace kaldo::test {
 
@@ -64,6 +67,24 @@ TEST(FormBuilder, TheCheckFindsWhatItIsFor) {
     showActive(&form);
     EXPECT_EQ(accessibilityFaults(form).size(), 4)
         << accessibilityFaults(form).join('\n').toStdString();
+}
+
+TEST(PictureFile, IsReadByWhatItHoldsWhateverItsName) {
+    const QTemporaryDir folder;
+    QImage red(6, 4, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    for (const char *format : {"PNG", "BMP"}) {
+        const QString file = folder.filePath(QStringLiteral("logo.png"));
+        ASSERT_TRUE(red.save(file, format));
+        EXPECT_EQ(loadPicture(file).convertToFormat(QImage::Format_RGB32), red) << format;
+    }
+    QFile text(folder.filePath(QStringLiteral("text.png")));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write("no es una imagen");
+    text.close();
+    EXPECT_TRUE(loadPicture(text.fileName()).isNull());
+    EXPECT_TRUE(loadPicture(folder.filePath(QStringLiteral("none.png"))).isNull());
+    EXPECT_TRUE(loadPicture(folder.path()).isNull());
 }
 
 }  // namespace kaldo::test
