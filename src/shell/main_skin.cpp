@@ -38,7 +38,8 @@ bool between(const QDate &day, const QString &first, const QString &last) {
 
 const QColor kInk(0x1e, 0x29, 0x3b);
 
-/// Fusion with quiet flat headers on all grids, in the scheme's colour where there is one.
+/// Fusion with a flat tool bar and quiet flat headers on all grids, in the scheme's colour where
+/// there is one.
 class KaldoStyle : public QProxyStyle {
 public:
     KaldoStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -67,6 +68,13 @@ public:
                 QProxyStyle::drawControl(element, &label, painter, widget);
                 return;
             }
+        }
+        if (element == CE_ToolBar) {
+            // Fusion's translucent lines are blended dot by dot, by threads of their own.
+            QRect line = option->rect;
+            line.setTop(line.bottom());
+            painter->fillRect(line, kHeaderLine);
+            return;
         }
         QProxyStyle::drawControl(element, option, painter, widget);
     }
