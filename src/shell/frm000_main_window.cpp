@@ -106,14 +106,6 @@ void FRM000::Ini() {
                           QStringLiteral("KALDO ") + QString::fromLatin1(kVersion));
 }
 
-void FRM000::rereadIni() {
-    // A file that is gone or can't be read at this moment would read as empty, and be written so.
-    const IniFile now(context_.ini.path());
-    if (!now.value(QStringLiteral("Sql"), QStringLiteral("cliente")).isEmpty()) {
-        context_.ini = now;
-    }
-}
-
 void FRM000::MainSkin() {
     Panel2_->hide();
     context_.session.SkinName = context_.ini.value(

@@ -46,8 +46,6 @@ public:
     void formCreate();
     /// Opens the ini file anew and takes its keys into the session.
     void Ini();
-    /// Takes the ini file as it stands now, before a write: what was changed by hand since stays.
-    void rereadIni();
     void MainSkin();
     void DisableButtons();
     void EnableButtons();

@@ -162,7 +162,6 @@ void FRMAcceso::CheckBox1Click() {
         CheckBox1_->setChecked(false);
         return;
     }
-    main_.rereadIni();
     context().ini.setValue(kUsuario, QStringLiteral("user"),
                            CheckBox1_->isChecked() ? Edit1_->text() : QString());
     main_.Ini();

@@ -191,7 +191,6 @@ void FRMControlPanel::AplicarCambios() {
     }
     changed.ImgEmpresa = logos_[0].path;
     changed.ImgEmpresa1 = logos_[1].path;
-    main_.rereadIni();
     changed.save(context().ini);
     context().options = changed;
     main_.Ini();

@@ -252,7 +252,6 @@ void FRMInicioFirebird::lockWritten() {
 
 void FRMInicioFirebird::writeStation() {
     const SetupValues chosen = values();
-    main_.rereadIni();
     context().ini.setValue(u"Usuario"_s, u"ciudad"_s, chosen.nombreCiudad);
     context().ini.setValue(u"Usuario"_s, u"estado"_s, QString::number(chosen.estado + 1));
     // The control panel would write its own back.

@@ -118,6 +118,27 @@ TEST_F(IniFileTest, AWriteChangesItsLineAndNoOther) {
     EXPECT_EQ(IniFile(path).value("c", "tres"), "3");
 }
 
+TEST_F(IniFileTest, AWriteKeepsWhatWasEditedMeanwhileAndAGoneFileComesBackWhole) {
+    const QString path = write("[A]\nuno=1\ndos=2\n");
+    IniFile ini(path);
+    write("[A]\nuno=1\ndos=otro\n[B]\ntres=3\n");
+    ini.setValue("A", "uno", "10");
+    EXPECT_EQ(read(), "[A]\nuno=10\ndos=otro\n[B]\ntres=3\n");
+    EXPECT_EQ(ini.value("A", "dos"), "otro");
+    write("[A]\nuno=11\n");
+    ini.writeTogether([&] { ini.setValue("A", "dos", "20"); });
+    EXPECT_EQ(read(), "[A]\nuno=11\ndos=20\n");
+    for (const bool emptied : {true, false}) {
+        if (emptied) {
+            write("");
+        } else {
+            QFile::remove(path);
+        }
+        ini.setValue("A", "dos", emptied ? "21" : "22");
+        EXPECT_EQ(read(), emptied ? "[A]\nuno=11\ndos=21\n" : "[A]\nuno=11\ndos=22\n");
+    }
+}
+
 TEST_F(IniFileTest, MissingLatinAndBinaryFilesAreReadAsFarAsTheyMakeSense) {
     EXPECT_EQ(IniFile(folder.filePath("no.ini")).value("Sql", "cliente"), "");
     EXPECT_EQ(IniFile(write("[Cliente]\nnombre=Cl\xEDnica\n")).value("Cliente", "nombre"),

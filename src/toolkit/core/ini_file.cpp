@@ -39,14 +39,21 @@ QString placeOf(const QString &section, const QString &key) {
 }  // namespace
 
 IniFile::IniFile(QString path) : path_(std::move(path)) {
+    takeFromDisk();
+}
+
+void IniFile::takeFromDisk() {
     QFile file(path_);
-    if (file.open(QIODevice::ReadOnly)) {
-        QString text = decode(file.readAll());
-        text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-        QStringList lines = text.split(u'\n');
-        if (!lines.isEmpty() && lines.last().isEmpty()) {
-            lines.removeLast();
-        }
+    if (!file.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    QString text = decode(file.readAll());
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    QStringList lines = text.split(u'\n');
+    if (lines.last().isEmpty()) {
+        lines.removeLast();
+    }
+    if (!lines.isEmpty() && lines != lines_) {
         changeLines(lines);
     }
 }
@@ -117,6 +124,9 @@ int IniFile::integer(const QString &section, const QString &key) const {
 void IniFile::setValue(const QString &section, const QString &key, const QString &value) {
     QString clean = value;
     clean.replace(u'\n', u' ').replace(u'\r', u' ');
+    if (!together_) {
+        takeFromDisk();
+    }
     QStringList lines = lines_;
     const qsizetype start = sectionLine(section);
     const qsizetype at = places_.value(placeOf(section, key), -1);
@@ -146,6 +156,7 @@ void IniFile::setValue(const QString &section, const QString &key, const QString
 }
 
 void IniFile::writeTogether(const std::function<void()> &call) {
+    takeFromDisk();
     const QStringList before = lines_;
     together_ = true;
     try {

@@ -29,7 +29,8 @@ public:
     /// absent key counts as an empty value.
     int integer(const QString &section, const QString &key) const;
 
-    /// Writes through to the file. Throws std::runtime_error with a Spanish text when the file
+    /// Writes through to the file, into what stands there now: what was edited by hand meanwhile
+    /// stays, and counts from here on. Throws std::runtime_error with a Spanish text when the file
     /// can't be written; the value is then unchanged.
     void setValue(const QString &section, const QString &key, const QString &value);
 
@@ -39,6 +40,9 @@ public:
 
 private:
     qsizetype sectionLine(const QString &section) const;
+    /// What stands in the file now. One that is gone, empty or can't be read changes nothing, or
+    /// the next write would leave nothing of it.
+    void takeFromDisk();
     void write(const QStringList &lines) const;
     void changeLines(const QStringList &lines);
 
