@@ -11,6 +11,7 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -83,7 +84,10 @@ void FRM000::formCreate() {
     const QString stem =
         pictureStem(context_.ini.value(QStringLiteral("Ambiente"), QStringLiteral("skin"),
                                        QStringLiteral("C:\\KALDO\\Ini\\skinblue.dll")));
-    splashPicture_ = pictureFile(stem + QStringLiteral("_splash.png"));
+    splashPicture_ = pictureFile(stem + QStringLiteral("_splash.svg"));
+    if (!QFileInfo::exists(splashPicture_)) {
+        splashPicture_ = pictureFile(stem + QStringLiteral("_splash.png"));
+    }
     if (!backdrop_->hasPicture()) {
         backdrop_->setPicture(pictureFile(stem + QStringLiteral(".png")));
         // What is written on a picture takes the colours of the scheme that it was drawn for.
@@ -96,7 +100,7 @@ void FRM000::formCreate() {
 
 void FRM000::Ini() {
     IniFile &ini = context_.ini;
-    ini = IniFile(ini.path());
+    ini.reread();
     const QString client = QStringLiteral("Cliente");
     context_.session.Cliente = ini.value(client, QStringLiteral("cliente"));
     context_.session.ClienteNombre = ini.value(client, QStringLiteral("nombre"));

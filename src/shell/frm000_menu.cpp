@@ -7,6 +7,7 @@
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
 
+#include <QActionEvent>
 #include <QActionGroup>
 #include <QMenuBar>
 #include <QSet>
@@ -14,7 +15,25 @@
 
 namespace kaldo {
 
+namespace {
+
+/// A menu bar that isn't laid out anew for each heading that is switched off with it. On the way
+/// back each heading lays it out, with all that changed meanwhile.
+class MenuBar final : public QMenuBar {
+protected:
+    void actionEvent(QActionEvent *event) override {
+        if (event->type() == QEvent::ActionChanged && !isEnabled()) {
+            update();
+        } else {
+            QMenuBar::actionEvent(event);
+        }
+    }
+};
+
+}  // namespace
+
 void FRM000::buildMenu() {
+    setMenuBar(new MenuBar);
     for (const MenuHeading &heading : menuHeadings()) {
         const QString name = QString::fromLatin1(heading.name);
         QMenu *menu = menuBar()->addMenu(QString::fromUtf8(heading.caption));

@@ -35,12 +35,16 @@ FRMInicio::FRMInicio(const QString &file)
 
 void FRMInicio::formCreate(IniFile &ini) {
     version_ = QString::fromLatin1(kVersion);
-    update();
     ini.setValue(QStringLiteral("Alert"), QStringLiteral("version"), version_);
 }
 
 void FRMInicio::readPicture() {
-    if (!std::exchange(read_, true)) {
+    if (std::exchange(read_, true)) {
+        return;
+    }
+    if (file_.endsWith(QLatin1String(".svg"))) {
+        drawing_.load(file_);
+    } else {
         picture_ = QPixmap::fromImage(loadPicture(file_));
     }
 }
@@ -49,13 +53,15 @@ void FRMInicio::paintEvent(QPaintEvent *) {
     readPicture();
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (picture_.isNull()) {
-        paintGround(painter);
-    } else {
+    if (drawing_.isValid()) {
+        drawing_.render(&painter, rect());
+    } else if (!picture_.isNull()) {
         painter.drawPixmap(rect(), picture_);
+    } else {
+        paintGround(painter);
     }
     const QRect foot = rect().adjusted(24, kFoot, -24, -8);
-    painter.setPen(picture_.isNull() ? QColor(0x5b, 0x7a, 0x83) : QColor(Qt::white));
+    painter.setPen(hasPicture() ? QColor(Qt::white) : QColor(0x5b, 0x7a, 0x83));
     painter.drawText(foot, Qt::AlignRight | Qt::AlignVCenter,
                      QStringLiteral("Versión ") + version_);
 }

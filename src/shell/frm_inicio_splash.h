@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPixmap>
+#include <QSvgRenderer>
 #include <QWidget>
 
 #include "toolkit/core/ini_file.h"
@@ -13,7 +14,8 @@ class FRMInicio final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Where the file holds no picture, one is drawn.
+    /// An SVG drawing, which is sharp on every screen, or a picture file. Where the file holds
+    /// neither, a plain ground is painted.
     explicit FRMInicio(const QString &file);
 
     /// Writes the version of the running program to the ini file and shows it.
@@ -24,10 +26,12 @@ protected:
 
 private:
     void readPicture();
+    bool hasPicture() const { return drawing_.isValid() || !picture_.isNull(); }
     void paintGround(QPainter &painter) const;
 
     QString file_;
     bool read_ = false;
+    QSvgRenderer drawing_;
     QPixmap picture_;
     QString version_;
 };

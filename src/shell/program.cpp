@@ -195,12 +195,12 @@ void Program::createResidents() {
     parts.password->setParent(&window, Qt::Dialog);
     runGuarded([&] { parts.login->formCreate(); });
     parts.splash = std::make_unique<FRMInicio>(window.splashPicture());
-    parts.splash->show();
     try {
         parts.splash->formCreate(parts.ini);
     } catch (const std::exception &failure) {
         window.tellFailure(failure);  // the splash would cover a box
     }
+    parts.splash->show();
     parts.cierre = std::make_unique<FRMClose>(context, parts.countDown);
     parts.cierre->setParent(&window, Qt::Dialog);
     connectGuarded(&window, &FRM000::closingHour, parts.cierre.get(), &FRMClose::begin);

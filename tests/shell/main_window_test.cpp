@@ -209,6 +209,25 @@ TEST(MainWindow, HeadingsHaveTheirLettersForThemselves) {
     }
 }
 
+TEST(MainWindow, HeadingsOfALoginStandWhereAFreshLayoutPutsThem) {
+    for (const char *user : {"admin/admin", "cajero1/caja1", "admision/adm", "clinica/cli"}) {
+        ShellStation station;
+        const QString login = QString::fromLatin1(user);
+        station.logIn(login.section('/', 0, 0), login.section('/', 1));
+        QMenuBar *bar = station.window().menuBar();
+        const auto places = [bar] {
+            QList<QRect> result;
+            for (QAction *heading : bar->actions()) {
+                result += bar->actionGeometry(heading);
+            }
+            return result;
+        };
+        const QList<QRect> atLogin = places();
+        bar->resize(bar->width() - 1, bar->height());
+        EXPECT_EQ(atLogin, places()) << user;
+    }
+}
+
 TEST(MainWindow, NoticeTellsTheFileWhereThePathHasNoRoom) {
     ShellStation station;
     station.logIn("cajero1", "caja1");

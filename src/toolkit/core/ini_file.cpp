@@ -39,10 +39,10 @@ QString placeOf(const QString &section, const QString &key) {
 }  // namespace
 
 IniFile::IniFile(QString path) : path_(std::move(path)) {
-    takeFromDisk();
+    reread();
 }
 
-void IniFile::takeFromDisk() {
+void IniFile::reread() {
     QFile file(path_);
     if (!file.open(QIODevice::ReadOnly)) {
         return;
@@ -53,12 +53,15 @@ void IniFile::takeFromDisk() {
     if (lines.last().isEmpty()) {
         lines.removeLast();
     }
-    if (!lines.isEmpty() && lines != lines_) {
-        changeLines(lines);
+    if (!lines.isEmpty()) {
+        setLines(lines);
     }
 }
 
-void IniFile::changeLines(const QStringList &lines) {
+void IniFile::setLines(const QStringList &lines) {
+    if (lines == lines_) {
+        return;
+    }
     lines_ = lines;
     places_.clear();
     QSet<QString> sections;
@@ -125,7 +128,7 @@ void IniFile::setValue(const QString &section, const QString &key, const QString
     QString clean = value;
     clean.replace(u'\n', u' ').replace(u'\r', u' ');
     if (!together_) {
-        takeFromDisk();
+        reread();
     }
     QStringList lines = lines_;
     const qsizetype start = sectionLine(section);
@@ -152,18 +155,18 @@ void IniFile::setValue(const QString &section, const QString &key, const QString
     if (!together_ && lines != lines_) {
         write(lines);
     }
-    changeLines(lines);
+    setLines(lines);
 }
 
 void IniFile::writeTogether(const std::function<void()> &call) {
-    takeFromDisk();
+    reread();
     const QStringList before = lines_;
     together_ = true;
     try {
         call();
         write(lines_);
     } catch (...) {
-        changeLines(before);
+        setLines(before);
         together_ = false;
         throw;
     }

@@ -21,6 +21,10 @@ public:
 
     const QString &path() const { return path_; }
 
+    /// Takes what stands in the file now. One that is gone, empty or can't be read changes nothing,
+    /// or the next write would leave nothing of it.
+    void reread();
+
     QString value(const QString &section, const QString &key,
                   const QString &defaultValue = QString()) const;
     /// "S", exactly.
@@ -40,11 +44,8 @@ public:
 
 private:
     qsizetype sectionLine(const QString &section) const;
-    /// What stands in the file now. One that is gone, empty or can't be read changes nothing, or
-    /// the next write would leave nothing of it.
-    void takeFromDisk();
     void write(const QStringList &lines) const;
-    void changeLines(const QStringList &lines);
+    void setLines(const QStringList &lines);
 
     QString path_;
     QStringList lines_;
