@@ -2,16 +2,19 @@
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
 
+#include <QCommandLineParser>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTextStream>
+#include <QTimer>
 #include <QTranslator>
 
 #include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <optional>
 
 #if defined(Q_OS_LINUX)
 #include <langinfo.h>
@@ -25,6 +28,8 @@ const char kHelp[] =
     "  --root CARPETA  carpeta de la instalación, con Ini/kaldo.ini y DataBase/\n"
     "                  (si falta: la variable KALDO_ROOT o la carpeta de datos del usuario)\n"
     "  --help          muestra esta ayuda\n";
+
+constexpr int kWrongArguments = 2;
 
 bool hasArgument(const QStringList &arguments, const char *name) {
     return arguments.contains(QLatin1String(name));
@@ -61,6 +66,27 @@ QStringList argumentList(int argc, char **argv) {
     return arguments;
 }
 
+/// The folder that the arguments name, or that of the environment. None, with the reason on the
+/// error output, where they make no sense.
+std::optional<QString> rootFrom(const QStringList &arguments) {
+    const QString root = QStringLiteral("root");
+    QCommandLineParser parser;
+    parser.addOption({root, QString(), QStringLiteral("CARPETA")});
+    const bool sound = parser.parse(arguments);
+    const QStringList unknown = parser.unknownOptionNames() + parser.positionalArguments();
+    QString reason;
+    if (!unknown.isEmpty()) {
+        reason = QStringLiteral("no se conoce «%1».").arg(unknown.first());
+    } else if (!sound || (parser.isSet(root) && parser.value(root).isEmpty())) {
+        reason = QStringLiteral("falta la carpeta después de --root.");
+    }
+    if (!reason.isEmpty()) {
+        QTextStream(stderr) << "kaldo: " << reason << "\n\n" << QString::fromUtf8(kHelp);
+        return std::nullopt;
+    }
+    return parser.isSet(root) ? parser.value(root) : kaldo::Installation::rootFromEnvironment();
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
@@ -68,11 +94,6 @@ int main(int argc, char **argv) {
     if (hasArgument(arguments, "--help") || hasArgument(arguments, "-h")) {
         std::fputs(kHelp, stdout);
         return 0;
-    }
-    if (!arguments.isEmpty() && arguments.last() == QLatin1String("--root")) {
-        std::fputs("kaldo: falta la carpeta después de --root.\n\n", stderr);
-        std::fputs(kHelp, stderr);
-        return 2;
     }
     if (lacksDesktop(arguments)) {
         std::fputs(
@@ -84,6 +105,11 @@ int main(int argc, char **argv) {
     }
     nameLocale();
     kaldo::Application application(argc, argv);
+    // Behind the toolkit, which has taken its own options.
+    const std::optional<QString> root = rootFrom(QCoreApplication::arguments());
+    if (!root) {
+        return kWrongArguments;
+    }
     Q_INIT_RESOURCE(icons);
     QCoreApplication::setApplicationName(QStringLiteral("kaldo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("kaldo"));
@@ -95,13 +121,13 @@ int main(int argc, char **argv) {
         QCoreApplication::installTranslator(&toolkitTexts);
     }
     kaldo::ProgramSettings settings;
-    settings.root = kaldo::Installation::rootFromEnvironment(arguments);
+    settings.root = *root;
     kaldo::Program program(settings);
-    if (!program.start()) {
-        return kaldo::Program::kNotConnected;
-    }
-    // The database engine in the process takes these for itself and then ends nothing.
-    std::signal(SIGINT, SIG_DFL);
-    std::signal(SIGTERM, SIG_DFL);
-    return QCoreApplication::exec();
+    // The database engine in the process takes these for itself at its first attach and then ends
+    // nothing. The first loop behind it may be that of a box.
+    QTimer::singleShot(0, [] {
+        std::signal(SIGINT, SIG_DFL);
+        std::signal(SIGTERM, SIG_DFL);
+    });
+    return program.run();
 }

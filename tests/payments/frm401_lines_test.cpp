@@ -136,6 +136,31 @@ TEST_F(PaymentNoteLines, AnEmptyKeyTakesTheCurrentConcept) {
     EXPECT_EQ(stored().size(), 0);
 }
 
+TEST_F(PaymentNoteLines, LinesWithoutAKeyAreTakenAwayOneByOne) {
+    const auto takeCurrentConcept = [this] {
+        for (int cell = 0; cell < 3; ++cell) {
+            press(Qt::Key_Return);
+        }
+        typeText("1");
+        press(Qt::Key_Return);
+    };
+    takeCurrentConcept();
+    // Another concept becomes the current one by being picked for a line that is then given up.
+    press(Qt::Key_Return);
+    press(Qt::Key_F4);
+    typeText(prices[2][1].toString().left(16));
+    press(Qt::Key_Return);
+    press(Qt::Key_Escape);
+    takeCurrentConcept();
+    ASSERT_EQ(stored().size(), 2);
+    EXPECT_FALSE(stored()[0][0].isValid() || stored()[1][0].isValid());
+    press(Qt::Key_Tab);
+    station.messages.expectConfirmation("¿Desea borrar este concepto?", Answer::Yes);
+    press(Qt::Key_Space);
+    EXPECT_EQ(stored().size(), 1);
+    EXPECT_EQ(lines().rowCount(), 1);
+}
+
 TEST_F(PaymentNoteLines, TheListOfConceptsIsSoughtByDescription) {
     press(Qt::Key_Return);
     press(Qt::Key_F4);

@@ -40,7 +40,8 @@ void checkLook(const QString &name, const QString &user, const QString &password
     EXPECT_TRUE(QTest::qWaitFor([&] { return !backdrop->stretched().isNull(); }))
         << "it is read in the background";
     picture(&station.window(), name + "_main");
-    EXPECT_EQ(backdrop->stretched().size(), backdrop->viewport()->size());
+    EXPECT_EQ(backdrop->stretched().size(),
+              backdrop->viewport()->size() * backdrop->devicePixelRatioF());
     const QImage corner =
         backdrop->stretched().toImage().copy(backdrop->stretched().width() - 20, 0, 20, 20);
     EXPECT_EQ(corner, [&] {

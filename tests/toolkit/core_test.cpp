@@ -182,7 +182,6 @@ TEST(InstallationTest, PathsOfTheInstallationAreFoundWithoutRegardToCase) {
               folder.filePath("database/nueva.gdb"));
     EXPECT_EQ(installation.map("\\KALDO\\Ini\\kaldo.ini"), folder.filePath("Ini/kaldo.ini"));
     EXPECT_EQ(installation.map("servidor:/datos/KALDO/x.gdb"), "servidor:/datos/KALDO/x.gdb");
-    EXPECT_EQ(Installation::rootFromEnvironment({"kaldo", "--root", "/aqui"}), "/aqui");
 }
 
 }  // namespace

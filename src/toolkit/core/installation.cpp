@@ -27,11 +27,7 @@ QString existingName(const QDir &folder, const QString &name) {
 
 Installation::Installation(QString root) : root_(QDir(root).absolutePath()) {}
 
-QString Installation::rootFromEnvironment(const QStringList &arguments) {
-    const qsizetype option = arguments.indexOf(QLatin1String("--root"));
-    if (option >= 0 && option + 1 < arguments.size()) {
-        return arguments.at(option + 1);
-    }
+QString Installation::rootFromEnvironment() {
     const QString variable = qEnvironmentVariable("KALDO_ROOT");
     if (!variable.isEmpty()) {
         return variable;

@@ -10,9 +10,9 @@ class Installation {
 public:
     explicit Installation(QString root);
 
-    /// The root of this run: `--root DIR` of the arguments, else $KALDO_ROOT, else C:\KALDO on
-    /// Windows and the user's data folder elsewhere.
-    static QString rootFromEnvironment(const QStringList &arguments);
+    /// The root where none is told: $KALDO_ROOT, else C:\KALDO on Windows and the user's data
+    /// folder elsewhere.
+    static QString rootFromEnvironment();
 
     const QString &root() const { return root_; }
 
