@@ -307,11 +307,11 @@ void FRM401::grabarInformacion() {
     }
     table.set(QStringLiteral("TOTAL"), lineTotal(table.integer(QStringLiteral("CANT")),
                                                  table.number(QStringLiteral("PRECIO"))));
-    const QVariant key = table.value(clave());
+    const QVariant codigo = table.value(QStringLiteral("CODIGO"));
     table.post();
     table.apply();
     table.reopen();
-    table.locate({{clave(), key}});
+    table.locate({{QStringLiteral("CODIGO"), codigo}});
     NoEditar();
     moveFocus(agregar_);
 }
