@@ -12,6 +12,12 @@ FirebirdLogin loginFrom(const IniFile &ini) {
     return login;
 }
 
+/// The local database is the program's own: it has no triggers to look for.
+FirebirdLogin localLogin(FirebirdLogin login) {
+    login.databaseTriggers = false;
+    return login;
+}
+
 }  // namespace
 
 DMConexion::DMConexion(const Installation &installation, const IniFile &ini)
@@ -19,7 +25,7 @@ DMConexion::DMConexion(const Installation &installation, const IniFile &ini)
       installation_(installation),
       branch_(ini.value(QStringLiteral("Sql"), QStringLiteral("cliente"))),
       informixServer_(ini.value(QStringLiteral("Sql"), QStringLiteral("servidor"))),
-      FBLocal(QStringLiteral("FBLocal"), login_),
+      FBLocal(QStringLiteral("FBLocal"), localLogin(login_)),
       FBOdonto(QStringLiteral("FBOdonto"), login_),
       FBFinanzas(QStringLiteral("FBFinanzas"), login_),
       FBEscolares(QStringLiteral("FBEscolares"), login_),

@@ -94,6 +94,11 @@ QByteArray databaseParameters(const FirebirdLogin &login, Password password) {
     addText(block, isc_dpb_lc_ctype, QStringLiteral("UTF8"));
     block += static_cast<char>(isc_dpb_utf8_filename);
     block += '\0';
+    if (!login.databaseTriggers) {
+        block += static_cast<char>(isc_dpb_no_db_triggers);
+        block += '\1';
+        block += '\1';
+    }
     block += static_cast<char>(isc_dpb_sql_dialect);
     block += '\1';
     block += static_cast<char>(dialect3);

@@ -136,6 +136,24 @@ TEST_F(FirebirdConnectionTest, AnAttachThatFailsTellsWhich) {
     EXPECT_LT(timer.elapsed(), 2000) << "a server that isn't there is told at once";
 }
 
+TEST_F(FirebirdConnectionTest, TriggersOfADatabaseRunUnlessTheyAreSwitchedOff) {
+    run(connection, "create table llegadas (quien varchar(20))");
+    run(connection,
+        "create trigger al_conectar active on connect as begin "
+        "insert into llegadas values ('alguien'); end");
+    const auto arrivals = [this] { return rowsOf(connection, "select * from llegadas").size(); };
+    FirebirdLogin quiet;
+    quiet.databaseTriggers = false;
+    FirebirdConnection silent(QStringLiteral("FBLocal"), quiet);
+    silent.setDatabase(connection.database());
+    silent.open();
+    EXPECT_EQ(arrivals(), 0);
+    FirebirdConnection heard(QStringLiteral("FBLocal"), {});
+    heard.setDatabase(connection.database());
+    heard.open();
+    EXPECT_EQ(arrivals(), 1);
+}
+
 TEST_F(FirebirdConnectionTest, AFileThatAnotherProcessHoldsIsToldAsInUse) {
     const QString file = files.database("BD_FINANZAS.GDB");
     QProcess other;
