@@ -99,7 +99,11 @@ void FRMPass::BitBtn1Click() {
     }
     const Parameters values{{QStringLiteral("pass"), Edit2_->text()},
                             {QStringLiteral("usuario"), session().Usuario.text()}};
-    context().caja.CambiaPass.execute(values);
+    if (context().caja.CambiaPass.execute(values) == 0) {
+        messages().warning(
+            QStringLiteral("Otra estación borró el registro, la información no se guardó."));
+        return;
+    }
     context().odonto.CambiaPass.execute(values);
     messages().information(
         QStringLiteral("La nueva contraseña ha sido registrada correctamente, presione cualquier "

@@ -316,8 +316,11 @@ TEST(Password, IsChangedByItsOwner) {
         "La contraseña actual es incorrecta, presione cualquier tecla para continuar."));
     station.messages.expectWarning(QStringLiteral(
         "La nueva contraseña no coincide, presione cualquier tecla para continuar."));
-    station.messages.expectConfirmation(
-        QStringLiteral("¿Desea continuar con la actualización de la contraseña?"), Answer::Yes);
+    const QString sure = QStringLiteral("¿Desea continuar con la actualización de la contraseña?");
+    station.messages.expectConfirmation(sure, Answer::Yes);
+    station.messages.expectWarning(
+        QStringLiteral("Otra estación borró el registro, la información no se guardó."));
+    station.messages.expectConfirmation(sure, Answer::Yes);
     station.messages.expectInformation(
         QStringLiteral("La nueva contraseña ha sido registrada correctamente, presione cualquier "
                        "tecla para continuar."));
@@ -359,6 +362,11 @@ TEST(Password, IsChangedByItsOwner) {
                     press(Qt::Key_Return);
                     EXPECT_TRUE(apply->hasFocus());
                     picture(dialog, "password");
+                    Connection &clinic = station.program->conexion().FBOdonto;
+                    run(clinic, "update controlusuarios set usuario='x' where usuario='cajero1'");
+                    press(Qt::Key_Return);
+                    EXPECT_TRUE(dialog->isVisible());
+                    run(clinic, "update controlusuarios set usuario='cajero1' where usuario='x'");
                     press(Qt::Key_Return);
                 });
             EXPECT_FALSE(station.stillOpen);
