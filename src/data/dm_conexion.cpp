@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include <vector>
+
 namespace kaldo {
 
 namespace {
@@ -16,6 +18,22 @@ FirebirdLogin loginFrom(const IniFile &ini) {
 FirebirdLogin localLogin(FirebirdLogin login) {
     login.databaseTriggers = false;
     return login;
+}
+
+/// Waits for connections that have begun to open. Where one fails it and those behind it are
+/// closed.
+void openInOrder(const std::vector<FirebirdConnection *> &opening) {
+    auto next = opening.begin();
+    try {
+        for (; next != opening.end(); ++next) {
+            (*next)->open();
+        }
+    } catch (...) {
+        for (; next != opening.end(); ++next) {
+            (*next)->close();
+        }
+        throw;
+    }
 }
 
 }  // namespace
@@ -69,6 +87,7 @@ void DMConexion::open() {
         const auto registry = FBLocal.select(
             {QStringLiteral("Firebird1"), QStringLiteral("Select * from Firebird")}, {});
         const auto &columns = registry->columns();
+        std::vector<FirebirdConnection *> opening;
         Row row;
         while (registry->fetch(row)) {
             QString base;
@@ -80,25 +99,23 @@ void DMConexion::open() {
                     ruta = row[at].toString();
                 }
             }
-            openRegistered(base, ruta);
+            if (FirebirdConnection *connection = registered(base)) {
+                connection->setDatabase(installation_.map(ruta));
+                connection->beginOpening();
+                opening.push_back(connection);
+            }
         }
+        openInOrder(opening);
     } else if (branch_ == QLatin1String("Informix")) {
         openInformix();
     }
 }
 
-void DMConexion::openRegistered(const QString &base, const QString &ruta) {
-    FirebirdConnection *connection = nullptr;
+FirebirdConnection *DMConexion::registered(const QString &base) {
     if (base == QLatin1String("Odontologia")) {
-        connection = &FBOdonto;
-    } else if (base == QLatin1String("Finanzas")) {
-        connection = &FBFinanzas;
-    } else {
-        return;
+        return &FBOdonto;
     }
-    connection->close();
-    connection->setDatabase(installation_.map(ruta));
-    connection->open();
+    return base == QLatin1String("Finanzas") ? &FBFinanzas : nullptr;
 }
 
 void DMConexion::openInformix() {

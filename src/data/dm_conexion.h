@@ -20,8 +20,8 @@ public:
     DMConexion(const DMConexion &) = delete;
     DMConexion &operator=(const DMConexion &) = delete;
 
-    /// Opens the local registry, and what it names, in the order of its rows. The first failure
-    /// ends the opening and is thrown; what got connected stays so.
+    /// Opens the local registry, and what it names, all at a time. The first failure, in the order
+    /// of the rows, ends the opening and is thrown; what stands before it stays connected.
     void open();
 
     /// The connection of the station's branch: `firebird` unless the ini file says "Informix".
@@ -51,7 +51,8 @@ public:
     OdbcConnection InfxCtrClinicas;
 
 private:
-    void openRegistered(const QString &base, const QString &ruta);
+    /// The connection that a row of the registry names; null where it names none.
+    FirebirdConnection *registered(const QString &base);
     void openInformix();
 };
 
