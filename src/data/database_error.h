@@ -44,4 +44,7 @@ private:
     Details details_;
 };
 
+/// A write found no row: another station has deleted it.
+DatabaseError rowGone(const QString &connection, const QString &statement);
+
 }  // namespace kaldo

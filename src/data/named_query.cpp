@@ -496,9 +496,7 @@ void NamedQuery::apply() {
             break;
     }
     if (!statement.text.isEmpty() && connection_->execute(statement, values) == 0) {
-        throw DatabaseError(
-            QStringLiteral("Otra estación borró el registro, la información no se guardó."),
-            {DatabaseFailure::RowGone, {}, 0, {}, connection_->name(), statement.name});
+        throw rowGone(connection_->name(), statement.name);
     }
     pending_.reset();
 }

@@ -1,5 +1,6 @@
 #include "shell/frm_pass_password.h"
 
+#include "data/database_error.h"
 #include "toolkit/forms/form.h"
 
 namespace kaldo {
@@ -99,10 +100,9 @@ void FRMPass::BitBtn1Click() {
     }
     const Parameters values{{QStringLiteral("pass"), Edit2_->text()},
                             {QStringLiteral("usuario"), session().Usuario.text()}};
-    if (context().caja.CambiaPass.execute(values) == 0) {
-        messages().warning(
-            QStringLiteral("Otra estación borró el registro, la información no se guardó."));
-        return;
+    Command &change = context().caja.CambiaPass;
+    if (change.execute(values) == 0) {
+        throw rowGone(change.connection().name(), change.name());
     }
     context().odonto.CambiaPass.execute(values);
     messages().information(

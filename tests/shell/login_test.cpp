@@ -318,7 +318,7 @@ TEST(Password, IsChangedByItsOwner) {
         "La nueva contraseña no coincide, presione cualquier tecla para continuar."));
     const QString sure = QStringLiteral("¿Desea continuar con la actualización de la contraseña?");
     station.messages.expectConfirmation(sure, Answer::Yes);
-    station.messages.expectWarning(
+    station.messages.expectError(
         QStringLiteral("Otra estación borró el registro, la información no se guardó."));
     station.messages.expectConfirmation(sure, Answer::Yes);
     station.messages.expectInformation(
