@@ -1,14 +1,13 @@
 #include "shell/program.h"
+#include "shell/version.h"
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
 
 #include <QCommandLineParser>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTextStream>
 #include <QTimer>
-#include <QTranslator>
 
 #include <clocale>
 #include <csignal>
@@ -27,6 +26,7 @@ const char kHelp[] =
     "\n"
     "  --root CARPETA  carpeta de la instalación, con Ini/kaldo.ini y DataBase/\n"
     "                  (si falta: la variable KALDO_ROOT o la carpeta de datos del usuario)\n"
+    "  --version       muestra la versión\n"
     "  --help          muestra esta ayuda\n";
 
 constexpr int kWrongArguments = 2;
@@ -95,6 +95,10 @@ int main(int argc, char **argv) {
         std::fputs(kHelp, stdout);
         return 0;
     }
+    if (hasArgument(arguments, "--version")) {
+        std::printf("kaldo %s\n", kaldo::kVersion);
+        return 0;
+    }
     if (lacksDesktop(arguments)) {
         std::fputs(
             "kaldo: no hay un escritorio en el que mostrar las ventanas (faltan las "
@@ -115,11 +119,6 @@ int main(int argc, char **argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("kaldo"));
     QApplication::setWindowIcon(kaldo::iconNamed(QStringLiteral("logo")));
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Mexico));
-    QTranslator toolkitTexts;
-    if (toolkitTexts.load(QStringLiteral("qtbase_es"),
-                          QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(&toolkitTexts);
-    }
     kaldo::ProgramSettings settings;
     settings.root = *root;
     kaldo::Program program(settings);

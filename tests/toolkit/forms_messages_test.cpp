@@ -95,4 +95,12 @@ TEST(MessageBox, TheEndOfTheApplicationIsNoAnswer) {
     EXPECT_EXIT(endWhileAsking(), testing::ExitedWithCode(7), "");
 }
 
+TEST(Application, SpeaksSpanishInTheToolkitsOwnWindows) {
+    EXPECT_TRUE(QCoreApplication::translate("QFileDialog",
+                                            "%1 already exists.\nDo you want to replace it?")
+                    .contains("ya existe"));
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Cancelar");
+    EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Paste"), "&Pegar");
+}
+
 }  // namespace kaldo::test

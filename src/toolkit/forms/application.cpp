@@ -1,6 +1,8 @@
 #include "toolkit/forms/application.h"
 
+#include <QLibraryInfo>
 #include <QScopeGuard>
+#include <QTranslator>
 
 #include <stdexcept>
 
@@ -17,7 +19,14 @@ bool FailureGate::pass(const std::function<void()> &show) {
     return true;
 }
 
-Application::Application(int &argc, char **argv) : QApplication(argc, argv) {}
+Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
+    // The toolkit's own windows and menus speak Spanish on every machine.
+    auto *texts = new QTranslator(this);
+    if (texts->load(QStringLiteral("qtbase_es"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        installTranslator(texts);
+    }
+}
 
 Application *Application::current() {
     return qobject_cast<Application *>(QCoreApplication::instance());
