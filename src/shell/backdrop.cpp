@@ -125,10 +125,10 @@ void Backdrop::paintCaption(QPainter &painter, const QRect &area) {
     title.setWeight(QFont::DemiBold);
     painter.setFont(title);
     painter.setPen(captionColour_);
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, caption_);
+    painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, caption_);
     painter.setFont(font());
     painter.setPen(linkColour_);
-    painter.drawText(inner, Qt::AlignRight | Qt::AlignBottom, subtitle_);
+    painter.drawText(inner, Qt::AlignRight | Qt::AlignBottom | Qt::TextWordWrap, subtitle_);
 }
 
 }  // namespace kaldo

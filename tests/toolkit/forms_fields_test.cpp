@@ -209,6 +209,20 @@ TEST(Choice, ClosesUpOnWhatWasPickedNotOnEveryArrow) {
     EXPECT_EQ(closedUp.size(), 3);
 }
 
+TEST(Choice, IsSoughtByTheWordsBehindItsCodeToo) {
+    Choice states;
+    states.setItems(
+        {"BCN-Baja California", "NLE-Nuevo León", "NAY-Nayarit", "SLP-San Luis Potosí"});
+    for (const char *typed : {"nuevo", "potosi"}) {
+        states.setIndex(-1);
+        QTest::keyClicks(&states, QString::fromLatin1(typed));
+        EXPECT_TRUE(foldedText(states.currentText()).contains(QString(typed).toUpper()));
+    }
+    states.setIndex(-1);
+    QTest::keyClicks(&states, "na");
+    EXPECT_EQ(states.currentText(), "NAY-Nayarit") << "the beginning comes first";
+}
+
 TEST(RadioGroup, IsOneFieldWithNoneOrOneChosen) {
     Shown form;
     QList<int> clicked;

@@ -96,9 +96,9 @@ TEST(MessageBox, TheEndOfTheApplicationIsNoAnswer) {
 }
 
 TEST(Application, SpeaksSpanishInTheToolkitsOwnWindows) {
-    EXPECT_TRUE(QCoreApplication::translate("QFileDialog",
-                                            "%1 already exists.\nDo you want to replace it?")
-                    .contains("ya existe"));
+    EXPECT_TRUE(
+        QCoreApplication::translate("QFileDialog", "%1 already exists.\nDo you want to replace it?")
+            .contains("ya existe"));
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Cancelar");
     EXPECT_EQ(QCoreApplication::translate("QLineEdit", "&Paste"), "&Pegar");
 }

@@ -2,6 +2,7 @@
 
 #include "toolkit/core/text.h"
 #include "toolkit/forms/focus.h"
+#include "toolkit/forms/list_popup.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 #include <QScopedValueRollback>
+#include <QStandardItemModel>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QWheelEvent>
@@ -22,6 +24,39 @@ namespace {
 
 constexpr int kItemsVisible = 16;
 
+bool wordStartsWith(const QString &item, const QString &wanted) {
+    const QString folded = foldedText(item);
+    for (qsizetype at = folded.indexOf(wanted); at >= 0; at = folded.indexOf(wanted, at + 1)) {
+        if (at == 0 || !folded.at(at - 1).isLetterOrNumber()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Items are sought by their beginning; where none has it, by that of any of their words, so that
+/// an item with a code before its name is found by either.
+class WordModel final : public QStandardItemModel {
+public:
+    using QStandardItemModel::QStandardItemModel;
+
+    QModelIndexList match(const QModelIndex &start, int role, const QVariant &value, int hits,
+                          Qt::MatchFlags flags) const override {
+        const QModelIndexList found = QStandardItemModel::match(start, role, value, hits, flags);
+        if (!found.isEmpty() || !flags.testFlag(Qt::MatchStartsWith)) {
+            return found;
+        }
+        const QString wanted = foldedText(value.toString());
+        for (int step = 0; step < rowCount(); ++step) {
+            const QModelIndex candidate = index((start.row() + step) % rowCount(), start.column());
+            if (wordStartsWith(candidate.data(role).toString(), wanted)) {
+                return {candidate};
+            }
+        }
+        return {};
+    }
+};
+
 bool isEnter(const QKeyEvent &event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -29,6 +64,7 @@ bool isEnter(const QKeyEvent &event) {
 }  // namespace
 
 Choice::Choice(QWidget *parent) : QComboBox(parent), Field(this) {
+    setModel(new WordModel(this));
     setMaxVisibleItems(kItemsVisible);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     setSizeAdjustPolicy(AdjustToContents);
