@@ -20,9 +20,12 @@ namespace kaldo {
 
 namespace {
 
-report::PrintingHost printingHost(FRM000 *window) {
+report::PrintingHost printingHost(FRM000 *window, Messages *messages) {
     report::PrintingHost host;
     host.notice = [window](const QString &text) { window->showNotice(text); };
+    host.failure = [messages](QWidget *, const QString &text) {
+        messages->error(text, QStringLiteral("Impresión"));
+    };
     return host;
 }
 
@@ -46,7 +49,7 @@ struct Program::Parts {
           escolares(conexion),
           window(std::make_unique<FRM000>(context, settings.tick)),
           systemPrinting(installation.map(QStringLiteral("C:\\KALDO\\Recibos")),
-                         printingHost(window.get())),
+                         printingHost(window.get(), &messages)),
           context{installation, clock,
                   ini,          session,
                   options,      messages,
@@ -98,6 +101,8 @@ struct Program::Parts {
     std::unique_ptr<FRMInicio> splash;
     std::unique_ptr<FRMClose> cierre;
     std::unique_ptr<FRM801> incompletos;
+
+    bool loginAsked = false;  ///< by its key, while the splash stood over everything
 };
 
 Program::Program(const ProgramSettings &settings) {
@@ -218,7 +223,13 @@ void Program::registerScreens() {
     window.setHandler(QStringLiteral("A3"),
                       [&parts, &window] { parts.panel->openFromMenu(window.childScreen()); });
     registerCatalogues(window, parts.context);
-    window.setHandler(QStringLiteral("J1"), [&parts] { parts.login->openFromMenu(); });
+    window.setHandler(QStringLiteral("J1"), [&parts] {
+        if (parts.splash) {
+            parts.loginAsked = true;
+        } else {
+            parts.login->openFromMenu();
+        }
+    });
     window.setHandler(QStringLiteral("K2"), [&parts] {
         if (parts.update.run(UpdateCheck::Asked::FromMenu)) {
             Application::current()->endApplication();
@@ -239,14 +250,17 @@ void Program::Timer2() {
         parts.ini.value(machine, QStringLiteral("consulta")) == QLatin1String("N");
     const bool named = !parts.ini.value(machine, QStringLiteral("usuario")).isEmpty() &&
                        !parts.ini.value(machine, QStringLiteral("pass")).isEmpty();
-    if (ordinary || !named) {
-        if (!parts.window->sessionStarted()) {
-            parts.login->openAtStart();
-        }
+    if ((ordinary || !named) && !parts.window->sessionStarted()) {
+        parts.login->openAtStart();
         return;
     }
-    // A consultation station: nobody logs in to look a dossier up.
-    parts.window->runEntry(QStringLiteral("F1"));
+    if (!ordinary && named) {
+        // A consultation station: nobody logs in to look a dossier up.
+        parts.window->runEntry(QStringLiteral("F1"));
+    }
+    if (parts.loginAsked) {
+        parts.login->openFromMenu();
+    }
 }
 
 }  // namespace kaldo

@@ -133,12 +133,18 @@ TEST(Start, OptionThatIsNoNumberIsToldAndTheRunGoesOn) {
 
 TEST(Start, SplashStandsUntilTheLoginComes) {
     ShellStation station;
+    station.splash = std::chrono::milliseconds(50);
     ASSERT_TRUE(station.start());
     ASSERT_NE(station.program->splash(), nullptr);
     EXPECT_TRUE(station.program->splash()->isVisible());
     EXPECT_EQ(IniFile(station.installation.iniPath()).value("Alert", "version"), "1.0.0.0");
     station.inDialog(
-        station.login(), [] {}, [&] { EXPECT_EQ(station.program->splash(), nullptr); });
+        station.login(), [&] { station.window().action("J1")->trigger(); },
+        [&] {
+            EXPECT_EQ(station.program->splash(), nullptr) << "its key opens none below it";
+            EXPECT_TRUE(child<QWidget>(&station.login(), "CheckBox1")->isVisible())
+                << "it is that of the start";
+        });
 }
 
 TEST(Start, IniFileThatCannotBeWrittenIsToldWhenTheSplashHasGone) {
