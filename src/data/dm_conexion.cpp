@@ -82,6 +82,7 @@ DMConexion::~DMConexion() {
 }
 
 void DMConexion::open() {
+    outside_.clear();
     FBLocal.open();
     if (branch_ == QLatin1String("Firebird")) {
         const auto registry = FBLocal.select(
@@ -100,7 +101,11 @@ void DMConexion::open() {
                 }
             }
             if (FirebirdConnection *connection = registered(base)) {
-                connection->setDatabase(installation_.map(ruta));
+                const QString path = installation_.map(ruta);
+                if (installation_.portable(path) == path) {
+                    outside_ += base + QLatin1String(": ") + path;
+                }
+                connection->setDatabase(path);
                 connection->beginOpening();
                 opening.push_back(connection);
             }

@@ -24,6 +24,10 @@ public:
     /// of the rows, ends the opening and is thrown; what stands before it stays connected.
     void open();
 
+    /// What the last open() found named in the registry outside of the installation's root, as
+    /// "base: path": a copied installation that would work on the databases of the original.
+    const QStringList &outside() const { return outside_; }
+
     /// The connection of the station's branch: `firebird` unless the ini file says "Informix".
     Connection &branch(FirebirdConnection &firebird, OdbcConnection &informix);
 
@@ -36,6 +40,7 @@ private:
     const Installation &installation_;
     QString branch_;
     QString informixServer_;
+    QStringList outside_;
 
 public:
     FirebirdConnection FBLocal;

@@ -238,14 +238,16 @@ QWidget *FRMControlPanel::pageOf(const QWidget *widget) const {
 void FRMControlPanel::bindRecords() {
     auto *menu = new RecordMenu(this);
     DMLocal &local = context().local;
-    const auto add = [&](DataGrid *grid, NamedQuery *query, const QString &number,
+    const auto add = [&](
+                         DataGrid *grid, NamedQuery *query, const QString &number,
                          const QString &last, RuntimeText (*repeated)(const QVariant &),
-                         const QString &text) {
+                         const QString &text,
+                         std::function<void(NamedQuery &)> normalise = [](NamedQuery &) {}) {
         auto *records = new RecordGrid(
             messages(),
             {grid, query, number, last,
              [&local, repeated](const QVariant &value) { return local.existe(repeated(value)); },
-             text},
+             text, std::move(normalise)},
             this);
         grid->setEscapeHandler([this, records] {
             if (records->editing()) {
@@ -269,7 +271,13 @@ void FRMControlPanel::bindRecords() {
     connectGuarded(receipts, &RecordGrid::changed, this,
                    [this] { TotalRecibos_->setValue(context().local.Recibos.count()); });
     add(GridFirebird_, &local.Firebird, QStringLiteral("NOIDX"), QStringLiteral("RUTA"),
-        firebirdDuplicadoText, index);
+        firebirdDuplicadoText, index, [this](NamedQuery &row) {
+            const QString typed = row.text(QStringLiteral("RUTA"));
+            const QString kept = context().installation.portable(typed);
+            if (kept != typed) {
+                row.set(QStringLiteral("RUTA"), kept);
+            }
+        });
     add(GridInformix_, &local.Informix, QStringLiteral("NOIDX"), QStringLiteral("PASS"),
         informixDuplicadoText, index);
 }

@@ -20,21 +20,31 @@ FRMVersion::FRMVersion(Context &context)
 
 void FRMVersion::build() {
     using namespace form;
+    const QStringList &outside = context().conexion.outside();
+    const QString elsewhere =
+        QStringLiteral("Bases de datos fuera de la carpeta de esta instalación:\n") +
+        outside.join(u'\n');
     form::build(
-        this, column({
-                  row({stretch(), form::label(&Image1_, QStringLiteral("Image1")), stretch()}),
-                  row({stretch(),
-                       form::label(QStringLiteral("Versión  ") + QString::fromLatin1(kVersion))
-                           .with([](QLabel *label) { label->setObjectName("Label1"); })
-                           .heading(),
-                       stretch()}),
-                  form::line(),
-                  row({stretch(),
-                       button(nullptr, QStringLiteral("BitBtn1"), QStringLiteral("&Cerrar Ventana"))
-                           .icon(QStringLiteral("close"))
-                           .escape()
-                           .clicked([this] { reject(); })}),
-              }));
+        this,
+        column({
+            row({stretch(), form::label(&Image1_, QStringLiteral("Image1")), stretch()}),
+            row({stretch(),
+                 form::label(QStringLiteral("Versión  ") + QString::fromLatin1(kVersion))
+                     .with([](QLabel *label) { label->setObjectName("Label1"); })
+                     .heading(),
+                 stretch()}),
+            row({stretch(),
+                 form::label(outside.isEmpty() ? QString() : elsewhere).with([](QLabel *label) {
+                     label->setObjectName("outside");
+                 }),
+                 stretch()}),
+            form::line(),
+            row({stretch(),
+                 button(nullptr, QStringLiteral("BitBtn1"), QStringLiteral("&Cerrar Ventana"))
+                     .icon(QStringLiteral("close"))
+                     .escape()
+                     .clicked([this] { reject(); })}),
+        }));
     showPicture();
 }
 

@@ -55,8 +55,11 @@ void RecordGrid::cancel() {
 }
 
 bool RecordGrid::save() {
-    if (!settings_.grid->commitEditor() ||
-        messages_.confirm(QStringLiteral("¿La Información es Correcta?")) != Answer::Yes) {
+    if (!settings_.grid->commitEditor()) {
+        return false;
+    }
+    settings_.normalise(*settings_.query);
+    if (messages_.confirm(QStringLiteral("¿La Información es Correcta?")) != Answer::Yes) {
         return false;
     }
     const QVariant number = settings_.query->value(settings_.number);

@@ -27,6 +27,8 @@ public:
         /// True where another row has this number. May fail: that is told, and nothing more.
         std::function<bool(const QVariant &number)> repeated;
         QString repeatedText;
+        /// Puts what was typed into the form in which it is kept; before the question of save().
+        std::function<void(NamedQuery &row)> normalise = [](NamedQuery &) {};
     };
 
     /// All that is given outlives this object.

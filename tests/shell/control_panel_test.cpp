@@ -432,6 +432,14 @@ TEST_F(ControlPanel, RegistryHasNoDuplicateCheckThatWorks) {
         press(Qt::Key_Return);
         EXPECT_EQ(at.rows("select ruta from firebird where noidx=3"),
                   "servidor:C:\\datos\\escolares.gdb");
+        at.pick("GridFirebird", "Editar Registro");
+        at.field<DataGrid>("GridFirebird")->setCurrentField("RUTA");
+        typeText(at.installation.root() + "/DataBase/BD_ESCOLARES.GDB");
+        at.messages.expectConfirmation("¿La Información es Correcta?", Answer::Yes);
+        press(Qt::Key_Return);
+        EXPECT_EQ(at.rows("select ruta from firebird where noidx=3"),
+                  "C:\\KALDO\\DataBase\\BD_ESCOLARES.GDB")
+            << "a copy of the installation finds its own";
 
         at.pick("GridInformix", "Agregar Registro");
         typeText("1");

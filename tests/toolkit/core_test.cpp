@@ -181,7 +181,12 @@ TEST(InstallationTest, PathsOfTheInstallationAreFoundWithoutRegardToCase) {
     EXPECT_EQ(installation.map("c:/kaldo/DATABASE/nueva.gdb"),
               folder.filePath("database/nueva.gdb"));
     EXPECT_EQ(installation.map("\\KALDO\\Ini\\kaldo.ini"), folder.filePath("Ini/kaldo.ini"));
-    EXPECT_EQ(installation.map("servidor:/datos/KALDO/x.gdb"), "servidor:/datos/KALDO/x.gdb");
+    for (const char *elsewhere : {"servidor:/datos/KALDO/x.gdb", "/otra/KALDO/DataBase/x.gdb"}) {
+        EXPECT_EQ(installation.map(elsewhere), elsewhere);
+        EXPECT_EQ(installation.portable(elsewhere), elsewhere);
+    }
+    EXPECT_EQ(installation.portable(folder.filePath("database/nueva.gdb")),
+              "C:\\KALDO\\database\\nueva.gdb");
 }
 
 }  // namespace

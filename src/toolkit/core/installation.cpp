@@ -61,4 +61,12 @@ QString Installation::map(const QString &path) const {
     return mapped;
 }
 
+QString Installation::portable(const QString &path) const {
+    const QString below = QDir::cleanPath(path);
+    if (!below.startsWith(root_ + u'/')) {
+        return path;
+    }
+    return QLatin1String("C:\\KALDO") + below.mid(root_.size()).replace(u'/', u'\\');
+}
+
 }  // namespace kaldo

@@ -22,6 +22,10 @@ public:
     /// Any other path is given back as it is.
     QString map(const QString &path) const;
 
+    /// The opposite: a path of this machine that lies below the root, written with the fixed root,
+    /// so that it holds in a copy of the installation too. Any other path as it is.
+    QString portable(const QString &path) const;
+
 private:
     QString root_;
 };
