@@ -31,7 +31,8 @@ FRM000::FRM000(Context &context, std::chrono::milliseconds tick) : context_(cont
     buildToolBar();
     buildCentre();
     panels_ = new StatusPanels(this);
-    panels_->setPanel(1, QStringLiteral("   Bienvenidos Sistema KALDO"));
+    panels_->setPanel(
+        1, QStringList{QStringLiteral("   Bienvenidos Sistema KALDO"), QStringLiteral("   KALDO")});
     setStatusBar(panels_);
     setDefaultHandlers();
     DisableButtons();
@@ -133,6 +134,7 @@ QString FRM000::pictureFile(const QString &file) const {
 
 void FRM000::showUser() {
     panels_->setPanel(0, QStringLiteral("   Usuario: ") + context_.session.NombreCorto);
+    panels_->showNotice({});  // the last receipt was that of the user before
     panels_->setPanel(3, QString());
     panels_->setPanel(5, QStringLiteral("   Ciudad: ") + context_.session.Ciudad);
 }

@@ -6,9 +6,11 @@
 #include "shell/side_bar.h"
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
+#include "toolkit/forms/list_popup.h"
 
 #include <QActionEvent>
 #include <QActionGroup>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QSet>
 #include <QToolBar>
@@ -30,13 +32,50 @@ protected:
     }
 };
 
+/// A menu whose entries bear no letters of their own: the first letter of a caption goes to it, and
+/// to the next one that begins so.
+class LetterMenu final : public QMenu {
+public:
+    using QMenu::QMenu;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override {
+        const bool plain = !(event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+        QAction *next = plain ? entryAfter(activeAction(), event->text()) : nullptr;
+        if (next != nullptr) {
+            setActiveAction(next);
+            event->accept();
+        } else {
+            QMenu::keyPressEvent(event);
+        }
+    }
+
+private:
+    QAction *entryAfter(QAction *current, const QString &letter) const {
+        if (letter.size() != 1 || !letter.at(0).isLetterOrNumber()) {
+            return nullptr;
+        }
+        const QList<QAction *> all = actions();
+        const auto start = all.indexOf(current) + 1;
+        for (qsizetype step = 0; step < all.size(); ++step) {
+            QAction *entry = all.at((start + step) % all.size());
+            if (entry->isEnabled() && entry->isVisible() && !entry->isSeparator() &&
+                foldedText(entry->text()).startsWith(foldedText(letter))) {
+                return entry;
+            }
+        }
+        return nullptr;
+    }
+};
+
 }  // namespace
 
 void FRM000::buildMenu() {
     setMenuBar(new MenuBar);
     for (const MenuHeading &heading : menuHeadings()) {
         const QString name = QString::fromLatin1(heading.name);
-        QMenu *menu = menuBar()->addMenu(QString::fromUtf8(heading.caption));
+        auto *menu = new LetterMenu(QString::fromUtf8(heading.caption), menuBar());
+        menuBar()->addMenu(menu);
         menu->setObjectName(name);
         headings_.insert(name, menu);
         for (const MenuEntry &entry : heading.entries) {
@@ -65,7 +104,8 @@ void FRM000::buildEntry(QMenu *menu, QMap<QString, QMenu *> *submenus, const Men
     if (!submenu.isEmpty()) {
         QMenu *&inner = (*submenus)[submenu];
         if (inner == nullptr) {
-            inner = menu->addMenu(submenuCaption(submenu));
+            inner = new LetterMenu(submenuCaption(submenu), menu);
+            menu->addMenu(inner);
             inner->setObjectName(submenu);
         }
         menu = inner;

@@ -9,6 +9,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionHeader>
+#include <QStyleOptionMenuItem>
 
 #include <array>
 #include <stdexcept>
@@ -68,6 +69,13 @@ public:
                 QProxyStyle::drawControl(element, &label, painter, widget);
                 return;
             }
+        }
+        if (element == CE_MenuBarItem && (option->state & State_Selected)) {
+            // Fusion shows the heading only where its menu is open: not where Alt alone has led to.
+            auto heading = *static_cast<const QStyleOptionMenuItem *>(option);
+            heading.state |= State_Sunken;
+            QProxyStyle::drawControl(element, &heading, painter, widget);
+            return;
         }
         if (element == CE_ToolBar) {
             // Fusion's translucent lines are blended dot by dot, by threads of their own.

@@ -11,15 +11,30 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kaldo {
 
 SideBar::SideBar(QWidget *parent) : QWidget(parent), headerColour_(baseAccent()) {
     setObjectName(QStringLiteral("sideBar"));
     setAttribute(Qt::WA_StyledBackground);
-    setFixedWidth(fontMetrics().averageCharWidth() * 30);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(8, 8, 8, 8);
     rows->setSpacing(10);
+    takeWidth();
+}
+
+/// Its usual width, or as much more as the figures that it shows need.
+void SideBar::takeWidth() {
+    const int usual = fontMetrics().averageCharWidth() * 30;
+    setFixedWidth(std::max(usual, layout()->totalMinimumSize().width()));
+}
+
+bool SideBar::event(QEvent *event) {
+    if (event->type() == QEvent::LayoutRequest) {
+        takeWidth();
+    }
+    return QWidget::event(event);
 }
 
 void SideBar::ensureBuilt() {

@@ -26,8 +26,12 @@ public:
     void setFigures(const std::function<QVariant(const QString &column)> &figure);
     void setHeaderColour(const QColor &colour);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void ensureBuilt();
+    void takeWidth();
     void paintHeaders();
     struct Figure {
         const char *column;

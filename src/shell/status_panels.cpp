@@ -147,14 +147,14 @@ StatusPanels::StatusPanels(QWidget *parent) : QStatusBar(parent), barColour_(bas
     bar_->hide();
 }
 
-void StatusPanels::setPanel(int panel, const QString &text) {
-    row_->panel(panel)->setForms({text});
+void StatusPanels::setPanel(int panel, const QStringList &forms) {
+    row_->panel(panel)->setForms(forms);
     row_->arrange();
 }
 
 void StatusPanels::showNotice(const QString &text) {
     const QString lead = QStringLiteral("   ");
-    QStringList forms{lead + text};
+    QStringList forms{text.isEmpty() ? text : lead + text};
     if (const QRegularExpressionMatch path = kPath.match(text); path.hasMatch()) {
         const QString file = path.captured(2);
         forms += lead + path.captured(1) + file;

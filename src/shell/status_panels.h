@@ -18,11 +18,13 @@ class StatusPanels : public QStatusBar {
 public:
     explicit StatusPanels(QWidget *parent = nullptr);
 
-    /// Where there is no room for all, the greeting, the user and the city are cut, and last the
-    /// notice; a panel that is cut tells its whole text in its tool tip.
-    void setPanel(int panel, const QString &text);
-    /// A text for panel 2. Of a path that it ends in the panel shows what there is room for: all of
-    /// it, the name of its file behind the text, or that name alone.
+    void setPanel(int panel, const QString &text) { setPanel(panel, QStringList(text)); }
+    /// A text and its shorter forms. Where there is no room for all panels, the greeting, the user
+    /// and the city give way, and last the notice: a panel shows the longest form that it has room
+    /// for, cut where it is the last, and tells the whole text in its tool tip.
+    void setPanel(int panel, const QStringList &forms);
+    /// A text for panel 2; an empty one takes it away. Of a path that it ends in the panel shows
+    /// what there is room for: all of it, the name of its file behind the text, or that name alone.
     void showNotice(const QString &text);
     void setBarColour(const QColor &colour);
 

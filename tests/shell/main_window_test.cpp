@@ -2,6 +2,7 @@
 #include "tests/shell/shell_station.h"
 
 #include "shell/menu_entries.h"
+#include "shell/side_bar.h"
 #include "tests/support/accessibility.h"
 
 #include <QLabel>
@@ -204,6 +205,12 @@ TEST(MainWindow, HeadingsHaveTheirLettersForThemselves) {
     for (int round = 0; round < 2; ++round) {
         press(Qt::Key_A, Qt::AltModifier);
         EXPECT_TRUE(archive->isVisible()) << "a button of the side bar is called \"Actualizar\"";
+        QStringList reached;
+        for (const Qt::Key letter : {Qt::Key_S, Qt::Key_P, Qt::Key_P}) {
+            press(letter);
+            reached += archive->activeAction()->objectName();
+        }
+        EXPECT_EQ(reached.join(' ').toStdString(), "A4 A1 A3") << "by the letters of the entries";
         archive->close();
         settle();
     }
@@ -242,6 +249,9 @@ TEST(MainWindow, NoticeTellsTheFileWhereThePathHasNoRoom) {
     EXPECT_TRUE(station.panel(2).endsWith(file)) << qPrintable(station.panel(2));
     EXPECT_GE(panel->width(), panel->fontMetrics().horizontalAdvance(panel->text()));
     EXPECT_EQ(panel->toolTip(), notice);
+    const auto *greeting = child<QLabel>(&station.window(), "panel1");
+    EXPECT_GE(greeting->width(), greeting->fontMetrics().horizontalAdvance(greeting->text()))
+        << "shorter, but not cut";
     picture(&station.window(), "notice_1024");
     {
         Progress progress(station.window(), 4);
@@ -253,6 +263,25 @@ TEST(MainWindow, NoticeTellsTheFileWhereThePathHasNoRoom) {
     station.window().resize(2600, 768);
     settle();
     EXPECT_EQ(station.panel(2), "   " + notice);
+    station.inDialog(
+        station.login(), [] { press(Qt::Key_F11); }, [&] { station.typeUser("cajero4", "caja4"); });
+    EXPECT_EQ(station.panel(2), "") << "the receipt of the cashier before";
+}
+
+TEST(MainWindow, SideBarTakesTheWidthOfItsFigures) {
+    ShellStation station;
+    station.logIn("cajero1", "caja1");
+    station.window().resize(1024, 768);
+    child<SideBar>(&station.window(), "sideBar")->setFigures([](const QString &) {
+        return QVariant(1234567.89);
+    });
+    settle();
+    for (const char *column : {"pesos", "dolares"}) {
+        const auto *figure =
+            child<QLabel>(&station.window(), QStringLiteral("figure_") + QLatin1String(column));
+        EXPECT_GE(figure->width(), figure->sizeHint().width()) << column;
+    }
+    picture(&station.window(), "figures_1024");
 }
 
 TEST(MainWindow, LongNamesDoNotWidenTheWindow) {

@@ -206,42 +206,6 @@ TEST(Start, ConsultationStationOpensTheDossiersWithoutLogin) {
     EXPECT_FALSE(station.window().sessionStarted());
 }
 
-TEST(Start, LoginPutAwayUnderTheSplashComesBackAsTheFirstScreen) {
-    ShellStation station;
-    station.splash = std::chrono::milliseconds(150);
-    ASSERT_TRUE(station.start());
-    station.inDialog(
-        station.login(), [&] { station.window().openEntry("J1"); }, [] { press(Qt::Key_Escape); });
-    ASSERT_NE(station.program->splash(), nullptr);
-    station.inDialog(
-        station.login(), [] {},
-        [&] {
-            EXPECT_TRUE(child<QWidget>(&station.login(), "CheckBox1")->isVisible());
-            EXPECT_EQ(child<QPushButton>(&station.login(), "BitBtn3")->text(),
-                      "&Salir de la Aplicación");
-        });
-}
-
-TEST(Start, LoginOpenedOverTheSplashBecomesTheFirstScreen) {
-    ShellStation station;
-    station.splash = std::chrono::milliseconds(150);
-    ASSERT_TRUE(station.start());
-    station.messages.expectConfirmation(QStringLiteral("Desea Salir del Sistema?"), Answer::No);
-    station.inDialog(
-        station.login(), [&] { station.window().openEntry("J1"); },
-        [&] {
-            EXPECT_NE(station.program->splash(), nullptr);
-            QTest::qWait(300);
-            EXPECT_EQ(station.program->splash(), nullptr);
-            press(Qt::Key_Escape);  // no longer a window that can be put away
-            EXPECT_TRUE(station.login().isVisible());
-            child<QWidget>(&station.login(), "Edit1")->setFocus();
-            station.typeUser("cajero1", "caja1");
-        });
-    EXPECT_FALSE(station.stillOpen);
-    EXPECT_TRUE(station.window().isEnabled());
-}
-
 TEST(Start, ConsultationStationWithoutItsUserAsksForTheLogin) {
     for (const char *value : {"S", ""}) {
         ShellStation station;
