@@ -80,13 +80,14 @@ void CataloguePanel::build() {
                         tool(&cancel_, "SpeedButton4", "&Cancelar", "cancel", [this] { cancel(); })
                             .escape(),
                         stretch(),
-                        step(0, "Primero", "Primer Registro", "first", [this] { go(0); }),
+                        step(0, "Primero", "Primer Registro", "first",
+                             [this] { go(grid_->rowBeside(-rules_.query->count())); }),
                         step(1, "Anterior", "Registro Anterior", "previous",
-                             [this] { go(rules_.query->position() - 1); }),
+                             [this] { go(grid_->rowBeside(-1)); }),
                         step(2, "Siguiente", "Siguiente Registro", "next",
-                             [this] { go(rules_.query->position() + 1); }),
+                             [this] { go(grid_->rowBeside(1)); }),
                         step(3, "Ultimo", "Ultimo Registro", "last",
-                             [this] { go(rules_.query->count() - 1); }),
+                             [this] { go(grid_->rowBeside(rules_.query->count())); }),
                     }),
                     form::grid(&grid_, QStringLiteral("DBGrid1"))
                         .accessible(QStringLiteral("Lista"))

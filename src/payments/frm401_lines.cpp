@@ -23,6 +23,7 @@ constexpr double kHighestPrice = 999999999.99;
 }  // namespace
 
 void FRM401::wireGrid() {
+    grid_->setSortable(false);  // lines stand as they were written
     // The picked concept becomes the price list's current row before anything else looks at it.
     connectGuarded(grid_, &DataGrid::closedUp, this, [this](const QString &, int row) {
         precios_->moveTo(row);

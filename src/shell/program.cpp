@@ -41,6 +41,7 @@ struct Program::Parts {
           fileDialogs(settings.fileDialogs != nullptr ? *settings.fileDialogs : chooser),
           splashTime(settings.splash),
           ini(installation.map(QStringLiteral("C:\\KALDO\\Ini\\kaldo.ini"))),
+          columns(installation.map(QStringLiteral("C:\\KALDO\\Ini\\columnas.ini"))),
           conexion(installation, ini),
           local(conexion),
           odonto(conexion, session, options),
@@ -77,6 +78,7 @@ struct Program::Parts {
     FileDialogs &fileDialogs;
     std::chrono::milliseconds splashTime;
     IniFile ini;
+    IniFile columns;  ///< as wide as the users of this station have dragged them
     Session session;
     Options options;
     DMConexion conexion;
@@ -113,12 +115,20 @@ Program::Program(const ProgramSettings &settings) {
         application->setFailureHandler([messages](const std::exception &failure) {
             messages->error(QString::fromUtf8(failure.what()));
         });
+        IniFile *columns = &parts_->columns;
+        const QString widths = QStringLiteral("Columnas");
+        application->setColumnMemory(
+            {[columns, widths](const QString &grid) { return columns->value(widths, grid); },
+             [columns, widths](const QString &grid, const QString &pixels) {
+                 columns->setValue(widths, grid, pixels);
+             }});
     }
 }
 
 Program::~Program() {
     if (Application *application = Application::current()) {
         application->setFailureHandler({});
+        application->setColumnMemory({});
     }
 }
 

@@ -11,6 +11,7 @@ namespace kaldo {
 RecordGrid::RecordGrid(Messages &messages, Settings settings, QObject *parent)
     : QObject(parent), messages_(messages), settings_(std::move(settings)) {
     bindGrid(settings_.grid, settings_.query);
+    settings_.grid->setSortable(false);  // rows change places by their numbers
     settings_.grid->setColumnEnterHandler([this](const QString &field) { columnEntered(field); });
     settings_.grid->setDoubleClickHandler([this] { settings_.query->edit(); });
 }

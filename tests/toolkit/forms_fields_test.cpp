@@ -71,6 +71,11 @@ TEST(NumberField, KeepsANumberThatIsOutOfRangeAndTellsIt) {
     form.close->setFocus();
     settle();
     EXPECT_TRUE(form.close->hasFocus()) << "the way out is open";
+    form.at(form.note)->clear();
+    typeText(QStringLiteral("-5"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(field->text(), QStringLiteral("-5")) << "refused, and not turned into 5";
+    EXPECT_TRUE(field->hasFocus());
 }
 
 TEST(MoneyField, ShowsTheMaskAtRestAndTheNumberWhileTyping) {
@@ -293,6 +298,10 @@ TEST(LookupField, PicksByTypingByListAndByFilter) {
     EXPECT_EQ(form.area->list()->table()->model()->rowCount(), 1);
     press(Qt::Key_Return);
     EXPECT_EQ(form.area->row(), 2) << "the row of the model, not of the filtered list";
+    press(Qt::Key_F4);
+    typeText(QStringLiteral("sella nin"));
+    EXPECT_EQ(form.area->list()->table()->model()->rowCount(), 1) << "words, in any order";
+    press(Qt::Key_Escape);
 
     form.area->selectAll();
     typeText(QStringLiteral("zzz"));

@@ -1,10 +1,13 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
+#include <QToolTip>
 
 #include "forms_sample.h"
 #include "tests/support/keys.h"
@@ -129,6 +132,108 @@ TEST(DataGrid, ARefusedTextStaysInTheCell) {
     EXPECT_EQ(form.value(0, 2), QVariant(9));
 }
 
+TEST(DataGrid, CellsObeyTheRulesOfFieldsAndTellWhatTheyRefuse) {
+    Grid form;
+    const auto paste = [](const QString &text) {
+        QGuiApplication::clipboard()->setText(text);
+        press(Qt::Key_V, Qt::ControlModifier);
+    };
+    const auto open = [&](const char *field) {
+        form.table->setCurrentField(QLatin1String(field));
+        press(Qt::Key_F2);
+        return static_cast<QLineEdit *>(QApplication::focusWidget());
+    };
+    const auto complaint = [](const QLineEdit *editor) {
+        return editor->property("complaint").toString();
+    };
+    const QString full = QStringLiteral("RESINA DE FOTOCURADO");
+    form.lines.setData(form.lines.index(0, 1), full, Qt::EditRole);
+    form.act = [](const QString &) { stayHere(); };
+    form.table->setRowEdit(true);
+
+    QLineEdit *text = open("DESCRIPCION");
+    press(Qt::Key_Home);
+    typeText(QStringLiteral("x"));
+    EXPECT_EQ(text->text(), full) << "what stood stays whole";
+    EXPECT_EQ(complaint(text), QStringLiteral("Aquí caben 20 caracteres."));
+    press(Qt::Key_Return);
+
+    QLineEdit *price = open("PRECIO");
+    paste(QStringLiteral("1,234.50 MXN"));
+    EXPECT_EQ(complaint(price), QStringLiteral("Aquí no se acepta «MXN»."));
+    press(Qt::Key_Return);
+    EXPECT_EQ(form.value(0, 3), QVariant(1234.5));
+    open("PRECIO");
+    press(Qt::Key_Delete);
+    press(Qt::Key_Return);
+    EXPECT_FALSE(form.value(0, 3).isValid()) << "an emptied amount is none, not zero";
+
+    QLineEdit *quantity = open("CANT");
+    paste(QStringLiteral("1a2"));
+    EXPECT_FALSE(complaint(quantity).isEmpty()) << "not without a word";
+    press(Qt::Key_Return);
+    EXPECT_EQ(form.value(0, 2), QVariant(12));
+}
+
+TEST(DataGrid, TheKeysComeBackIntoTheGridAfterABoxOverItsEditor) {
+    Grid form;
+    BoxMessages boxes;
+    QObject::connect(form.table, &DataGrid::resolved, &form, [&](const QString &, int) {
+        QTimer::singleShot(30, &form, [] {
+            ASSERT_TRUE(QTest::qWaitForWindowActive(QApplication::activeModalWidget()));
+            press(Qt::Key_Return);
+        });
+        boxes.information(QStringLiteral("La clave no se encuentra en la lista de precios."));
+    });
+    form.act = [](const QString &) { stayHere(); };
+    form.table->setRowEdit(true);
+    form.table->setCurrentField(QStringLiteral("CVE_PROD"));
+    typeText(QStringLiteral("99"));
+    press(Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    settle();
+    EXPECT_EQ(form.focusWidget(), form.table);
+    // Alt and the letter of a grey button is no text, neither in a cell nor in a field.
+    const QString before = form.value(0, 1).toString();
+    form.save->setEnabled(false);
+    form.table->setCurrentField(QStringLiteral("DESCRIPCION"));
+    press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_FALSE(form.table->editorOpen());
+    press(Qt::Key_F2);
+    press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(static_cast<QLineEdit *>(QApplication::focusWidget())->text(), before);
+}
+
+TEST(DataGrid, DraggedColumnsAreRememberedAndCutTextsShowInATip) {
+    QHash<QString, QString> kept;
+    Application::current()->setColumnMemory(
+        {[&](const QString &grid) { return kept.value(grid); },
+         [&](const QString &grid, const QString &widths) { kept[grid] = widths; }});
+    const auto dragged = [](Grid &form) { return form.table->columnWidth(3); };
+    int width = 0;
+    {
+        Grid form;
+        auto *header = form.table->horizontalHeader();
+        const QPoint edge(header->sectionViewportPosition(3) + header->sectionSize(3) - 1, 8);
+        width = dragged(form);
+        QTest::mousePress(header->viewport(), Qt::LeftButton, {}, edge);
+        QTest::mouseMove(header->viewport(), edge - QPoint(20, 0));
+        QTest::mouseMove(header->viewport(), edge - QPoint(50, 0));
+        QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, edge - QPoint(50, 0));
+        EXPECT_LT(dragged(form), width - 40);
+        width = dragged(form);
+        const QRect cell = form.table->visualRect(form.table->model()->index(1, 3));
+        QHelpEvent help(QEvent::ToolTip, cell.center(), {});
+        QApplication::sendEvent(form.table->viewport(), &help);
+        EXPECT_EQ(QToolTip::text(), QStringLiteral("$3,200.00"));
+        QToolTip::hideText();
+    }
+    EXPECT_TRUE(kept.value(QStringLiteral("FRM401.DBGrid1")).contains(QStringLiteral("PRECIO:")));
+    Grid again;
+    EXPECT_EQ(dragged(again), width);
+    Application::current()->setColumnMemory({});
+}
+
 TEST(DataGrid, ALookUpColumnTakesTypedKeysAndPickedRows) {
     Grid form;
     QStringList told;
@@ -208,7 +313,6 @@ TEST(DataGrid, CopiesWhatItShowsAndFiltersAndSorts) {
     press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
               QStringLiteral("1\tAMALGAMA\t2\t$250.00\t$500.00"));
-    form.table->setSortable(true);
     auto *header = form.table->horizontalHeader();
     const QPoint title(header->sectionViewportPosition(4) + 5, 8);
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, title);

@@ -76,6 +76,24 @@ TEST(MessageBox, AFieldBehindItIsNeitherLeftNorTyped) {
     messages.error(QStringLiteral("No hay papel."), QStringLiteral("Aviso"));
 }
 
+TEST(MessageBox, AnyKeyClosesABoxThatSaysSo) {
+    BoxMessages messages;
+    const QString text =
+        QStringLiteral("La nueva contraseña no coincide, presione cualquier tecla para continuar.");
+    for (const Qt::Key key : {Qt::Key_X, Qt::Key_F5, Qt::Key_Left}) {
+        bool stood = false;
+        during([&](QWidget *box) {
+            press(Qt::Key_Shift);
+            stood = box->isVisible();
+            press(key);
+            EXPECT_FALSE(box->isVisible()) << key;
+            box->hide();
+        });
+        messages.warning(text);
+        EXPECT_TRUE(stood) << "no key by itself";
+    }
+}
+
 namespace {
 
 [[noreturn]] void endWhileAsking() {

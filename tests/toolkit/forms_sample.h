@@ -45,6 +45,7 @@ public:
             QStringLiteral("DESCR"),
             {{QStringLiteral("DESCR"), QStringLiteral("Descripción"), 30},
              {QStringLiteral("MENUDEO"), QStringLiteral("Precio"), 12, CellMask::MoneyTight}}};
+        setObjectName(QStringLiteral("FRM401"));
         setWindowTitle(QStringLiteral("Registro Pagos"));
         build(this,
               column({

@@ -36,6 +36,10 @@ void Application::setFailureHandler(FailureHandler handler) {
     handler_ = std::move(handler);
 }
 
+void Application::setColumnMemory(ColumnMemory memory) {
+    columnMemory_ = std::move(memory);
+}
+
 void Application::reportFailure(const std::exception &failure) noexcept {
     if (!handler_) {
         qWarning("%s", failure.what());

@@ -28,6 +28,11 @@ class Application : public QApplication {
 
 public:
     using FailureHandler = std::function<void(const std::exception &)>;
+    /// Where the widths of columns that a person dragged are kept, by the name of the grid.
+    struct ColumnMemory {
+        std::function<QString(const QString &grid)> recall;
+        std::function<void(const QString &grid, const QString &widths)> keep;
+    };
 
     Application(int &argc, char **argv);
 
@@ -37,6 +42,10 @@ public:
     /// What shows a failure that no screen handled. Set once by whoever owns the messages; without
     /// one the text goes to the log of Qt as a warning.
     void setFailureHandler(FailureHandler handler);
+
+    /// Without one, widths last as long as their grid.
+    void setColumnMemory(ColumnMemory memory);
+    const ColumnMemory &columnMemory() const { return columnMemory_; }
 
     /// Shows a failure through the handler, one at a time; never throws.
     void reportFailure(const std::exception &failure) noexcept;
@@ -52,6 +61,7 @@ public:
 
 private:
     FailureHandler handler_;
+    ColumnMemory columnMemory_;
     FailureGate gate_;
     bool ending_ = false;
 };

@@ -3,6 +3,7 @@
 #include "toolkit/forms/drawn_icon.h"
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/focus_keeper.h"
+#include "toolkit/forms/keys.h"
 
 #include <QFile>
 #include <QKeyEvent>
@@ -17,10 +18,6 @@ static void loadIcons() {
 namespace kaldo {
 
 namespace {
-
-bool isEnter(const QKeyEvent &event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 /// True if the stroke is dealt with. What a field that was just left still has to say comes before
 /// the press, and may disable the button.

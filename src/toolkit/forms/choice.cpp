@@ -2,7 +2,9 @@
 
 #include "toolkit/core/text.h"
 #include "toolkit/forms/focus.h"
+#include "toolkit/forms/keys.h"
 #include "toolkit/forms/list_popup.h"
+#include "toolkit/forms/read_only_look.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -56,10 +58,6 @@ public:
         return {};
     }
 };
-
-bool isEnter(const QKeyEvent &event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 }  // namespace
 
@@ -314,11 +312,12 @@ QSize Memo::minimumSizeHint() const {
 void Memo::setFieldReadOnly(bool readOnly) {
     setReadOnly(readOnly);
     setFocusPolicy(readOnly ? Qt::ClickFocus : Qt::StrongFocus);
-    QPalette colors;
-    if (readOnly) {
-        colors.setBrush(QPalette::Base, QApplication::palette(this).window());
-    }
-    setPalette(colors);
+    showReadOnly(this, readOnly);
+}
+
+bool Memo::event(QEvent *event) {
+    followColours(this, isReadOnly(), *event);
+    return QPlainTextEdit::event(event);
 }
 
 void Memo::keyPressEvent(QKeyEvent *event) {

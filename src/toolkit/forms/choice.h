@@ -112,6 +112,7 @@ public:
     void setFieldReadOnly(bool readOnly) override;
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -12,7 +12,8 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollBar>
-#include <QToolTip>
+
+#include <algorithm>
 
 namespace kaldo {
 
@@ -99,7 +100,7 @@ GridColumn &GridColumn::stretch() {
 
 DataGrid::DataGrid(QWidget *parent)
     : QTableView(parent), Field(this), state_(std::make_unique<State>()) {
-    state_->rows = new GridRows(this);
+    state_->rows = new ShownRows(this);
     state_->header = new GridHeader(this);
     setHorizontalHeader(state_->header);
     state_->footer = new GridFooter(this);
@@ -117,7 +118,13 @@ DataGrid::DataGrid(QWidget *parent)
     setRowSelection(true);
     Field::setEnterHandler([this] { afterEnter(); });
     connect(state_->header, &GridHeader::filterChanged, this,
-            [this](int section, const QString &text) { state_->rows->setFilter(section, text); });
+            [this](int section, const QString &text) {
+                if (!text.trimmed().isEmpty()) {
+                    fetchAll(sourceModel());
+                }
+                state_->rows->setFilter(section, text);
+            });
+    connect(state_->header, &GridHeader::dragged, this, &DataGrid::rememberWidths);
     connect(state_->header, &GridHeader::filterLeft, this,
             [this] { setFocus(Qt::OtherFocusReason); });
     connect(state_->header, &QHeaderView::sectionClicked, this, &DataGrid::sortBy);
@@ -177,6 +184,14 @@ void DataGrid::watchModel() {
     };
     // A query that is opened again with the same columns finds them as they are.
     const auto rearrange = [this, arrange] {
+        if (state_->sortedBy >= 0) {
+            // Behind the reset: the other rows of a query that was opened again stand in no order.
+            FocusKeeper::get().post([grid = QPointer<DataGrid>(this)] {
+                if (grid) {
+                    runGuarded([&] { grid->showOrder(); });
+                }
+            });
+        }
         const QStringList fields = modelFields();
         if (fields == state_->fields) {
             sumsChanged();
@@ -209,7 +224,12 @@ void DataGrid::applyColumns() {
         }
     }
     state_->bySection = bySection;
-    state_->rows->setColumns(bySection);
+    QHash<int, ShownColumn> shown;
+    for (auto column = bySection.cbegin(); column != bySection.cend(); ++column) {
+        shown[column.key()] = GridDelegate::shownColumn(*column);
+    }
+    state_->rows->setColumns(shown);
+    const QHash<QString, int> widths = rememberedWidths();
     for (int section = 0; section < model->columnCount(); ++section) {
         setColumnHidden(section, !bySection.contains(section) || bySection[section].hidden);
     }
@@ -218,7 +238,7 @@ void DataGrid::applyColumns() {
         state_->header->moveSection(state_->header->visualIndex(order[place]), place);
         if (!state_->arranged) {
             state_->header->setSectionResizeMode(order[place], QHeaderView::Interactive);
-            setColumnWidth(order[place], columnPixels(column));
+            setColumnWidth(order[place], widths.value(column.field, columnPixels(column)));
         }
     }
     // The user's widths outlive a reopened query.
@@ -433,13 +453,23 @@ void DataGrid::setSortable(bool on) {
     }
 }
 
+void DataGrid::setEmptyText(const QString &text) {
+    state_->emptyText = text;
+    viewport()->update();
+}
+
+int DataGrid::rowBeside(int places) const {
+    const qint64 wanted = qint64(currentIndex().row()) + places;
+    while (wanted >= state_->rows->rowCount() && state_->rows->canFetchMore({})) {
+        state_->rows->fetchMore({});
+    }
+    const qint64 held = std::clamp<qint64>(wanted, 0, std::max(0, state_->rows->rowCount() - 1));
+    return state_->rows->mapToSource(state_->rows->index(int(held), 0)).row();
+}
+
 void DataGrid::sortBy(int section) {
     if (!state_->sortable || rowEdit_) {
         return;
-    }
-    QAbstractItemModel *model = sourceModel();
-    while (model && model->canFetchMore({})) {
-        model->fetchMore({});  // an order over half of the rows would be none
     }
     // Up, down, and back to the order of the query.
     if (state_->sortedBy != section) {
@@ -449,10 +479,61 @@ void DataGrid::sortBy(int section) {
         state_->order = Qt::DescendingOrder;
     } else {
         state_->sortedBy = -1;
+        state_->order = Qt::AscendingOrder;
+    }
+    runGuarded([this] { showOrder(); });
+}
+
+void DataGrid::showOrder() {
+    if (state_->sortedBy >= 0) {
+        fetchAll(sourceModel());  // an order over half of the rows would be none
     }
     state_->rows->sort(state_->sortedBy, state_->order);
     state_->header->setSortIndicatorShown(state_->sortedBy >= 0);
     state_->header->setSortIndicator(state_->sortedBy, state_->order);
+    scrollTo(currentIndex());
+}
+
+QString DataGrid::memoryName() const {
+    const QWidget *form = this;
+    while (!form->isWindow() && form->parentWidget() &&
+           !form->parentWidget()->inherits("QMdiSubWindow")) {
+        form = form->parentWidget();
+    }
+    return form->objectName() + QLatin1Char('.') + objectName();
+}
+
+QHash<QString, int> DataGrid::rememberedWidths() const {
+    QHash<QString, int> widths;
+    const Application *application = Application::current();
+    if (!application || !application->columnMemory().recall) {
+        return widths;
+    }
+    const QString kept = application->columnMemory().recall(memoryName());
+    for (const QString &column : kept.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const int pixels = column.section(QLatin1Char(':'), 1).toInt();
+        if (pixels > 0) {
+            widths[column.section(QLatin1Char(':'), 0, 0)] = pixels;
+        }
+    }
+    return widths;
+}
+
+void DataGrid::rememberWidths() const {
+    const Application *application = Application::current();
+    if (!application || !application->columnMemory().keep) {
+        return;
+    }
+    QStringList widths;
+    for (auto column = state_->bySection.cbegin(); column != state_->bySection.cend(); ++column) {
+        if (!isColumnHidden(column.key())) {
+            widths += column->field + QLatin1Char(':') + QString::number(columnWidth(column.key()));
+        }
+    }
+    widths.sort();
+    runGuarded([&] {
+        application->columnMemory().keep(memoryName(), widths.join(QLatin1Char(' ')));
+    });
 }
 
 }  // namespace kaldo

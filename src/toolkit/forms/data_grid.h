@@ -71,11 +71,17 @@ private:
 /// it outlives the grid or is detached from it by setModel(nullptr). setData() may throw: the
 /// failure is shown and the editor stays open with its text.
 ///
+/// Cells are edited by the field classes and obey their rules: a number, an amount and a date by
+/// their fields, all else as text. Columns are as wide as somebody dragged them; a text that is cut
+/// shows whole in a tip. A click on a title sorts, a second one the other way round, a third one
+/// restores the order of the model.
+///
 /// Keyboard. Arrows, Home, End and the page keys move; Ctrl+C copies the current row, or the
 /// selected ones, tab-separated; F2 or typing opens the cell editor where the row is open for edit
 /// and the column is editable; F2 on a row that isn't open does what a double click does; F4 or
-/// Alt+Down opens the list of a look-up column; Escape closes the editor and keeps the old value,
-/// and without an editor runs the escape handler. Enter puts the
+/// Alt+Down opens the list of a look-up column or the calendar of a date; Escape closes the editor
+/// and keeps the old value, and on an open row without an editor runs the escape handler. Enter
+/// puts the
 /// cell's text into the model, closes the editor, and then runs the enter handler; unless that
 /// moved the focus, Enter goes on to the next editable column of an open row, else out of the grid.
 class DataGrid : public QTableView, public Field {
@@ -145,8 +151,13 @@ public:
     /// keep the numbers of the model everywhere in this class.
     void setFiltering(bool on);
     bool filtering() const;
-    /// Header clicks sort the shown rows; off unless told, where an order is given.
+    /// Off where the work on the screen goes by the order of the rows.
     void setSortable(bool on);
+    /// What stands in the grid while it has no rows: what it waits for, or that there are none.
+    void setEmptyText(const QString &text);
+    /// The row of the model that is shown so many places away from the current one, held at the
+    /// first and the last; -1 where none is shown.
+    int rowBeside(int places) const;
 
     bool commit() override { return commitEditor(); }
     void clearField() override {}
@@ -170,6 +181,7 @@ protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void paintEvent(QPaintEvent *event) override;
     QSize sizeHint() const override;
 
 private:
@@ -190,9 +202,14 @@ private:
     bool mayEdit(const QModelIndex &index) const;
     void nextColumn();
     void copyRows() const;
-    bool store(QWidget *editor);
+    bool store();
+    bool readList(const GridColumn::Settings &column, QVariant *value, int *found);
     void pickFromList(const QString &field, int sourceRow);
     void sortBy(int section);
+    void showOrder();
+    QString memoryName() const;
+    QHash<QString, int> rememberedWidths() const;
+    void rememberWidths() const;
 
     int nextEditable(int section) const;
     int columnPixels(const GridColumn::Settings &column) const;

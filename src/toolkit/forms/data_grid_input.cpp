@@ -1,5 +1,7 @@
 #include "toolkit/forms/application.h"
+#include "toolkit/forms/complaint.h"
 #include "toolkit/forms/data_grid.h"
+#include "toolkit/forms/date_field.h"
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/focus_keeper.h"
 #include "toolkit/forms/grid_parts.h"
@@ -7,10 +9,9 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
-#include <QToolTip>
 
 namespace kaldo {
 
@@ -94,9 +95,9 @@ bool DataGrid::commitEditor() {
     if (!editorOpen()) {
         return true;
     }
-    QLineEdit *editor = state_->editor;
+    LineField *editor = state_->editor;
     bool stored = false;
-    const bool well = runGuarded([&] { stored = store(editor); });
+    const bool well = runGuarded([&] { stored = store(); });
     if (well && stored && editor == state_->editor) {
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     } else if (!well || !stored) {
@@ -108,50 +109,47 @@ bool DataGrid::commitEditor() {
     return well && stored;
 }
 
-bool DataGrid::store(QWidget *editor) {
-    auto *line = static_cast<QLineEdit *>(editor);
-    if (line->text() == state_->textBefore) {
+bool DataGrid::store() {
+    if (!state_->typed) {
         return true;
     }
+    LineField *editor = state_->editor;
     const GridColumn::Settings column = state_->bySection.value(state_->edited.column());
+    const bool list = column.lookup && column.lookup->model;
     QVariant value;
-    QString complaint;
     int found = -1;
-    if (column.lookup && column.lookup->model) {
-        QAbstractItemModel *list = column.lookup->model;
-        const int stored = fieldSection(*list, column.lookup->valueField);
-        if (!line->text().trimmed().isEmpty()) {
-            found = findText(list, stored, line->text());
-            if (found < 0) {
-                const int shown = fieldSection(*list, column.lookup->displayField);
-                found = findPrefix(list, shown, line->text().trimmed());
-            }
-        }
-        if (found < 0 && column.strict && !line->text().trimmed().isEmpty()) {
-            QToolTip::showText(line->mapToGlobal(line->rect().bottomLeft()),
-                               QStringLiteral("«%1» no está en la lista.").arg(line->text()), line);
-            return false;
-        }
-        value = found < 0 ? QVariant() : valueInList(column, found);
-    } else if (!GridDelegate::read(line->text(), column, &value, &complaint)) {
-        line->setProperty("complaint", complaint);
-        QToolTip::showText(line->mapToGlobal(line->rect().bottomLeft()), complaint, line);
+    if (list ? !readList(column, &value, &found)
+             : !GridDelegate::read(editor, *state_->typed, &value)) {
         return false;
     }
-    const bool lookedUp = column.lookup && !line->text().trimmed().isEmpty();
+    const bool lookedUp = column.lookup && !editor->text().trimmed().isEmpty();
     const QModelIndex target = state_->rows->mapToSource(state_->edited);
     if (!target.isValid() || !sourceModel()->setData(target, value, Qt::EditRole)) {
-        const QString refused = QStringLiteral("El valor «%1» no se puede guardar.");
-        QToolTip::showText(line->mapToGlobal(line->rect().bottomLeft()), refused.arg(line->text()),
-                           line);
+        complain(editor, QStringLiteral("El valor «%1» no se puede guardar.").arg(editor->text()));
         return false;
     }
-    line->setModified(false);
-    state_->textBefore = line->text();
+    state_->typed.reset();
     emit cellEdited(column.field);
     if (lookedUp) {
         emit resolved(column.field, found);
     }
+    return true;
+}
+
+bool DataGrid::readList(const GridColumn::Settings &column, QVariant *value, int *found) {
+    QAbstractItemModel *list = column.lookup->model;
+    const QString typed = state_->editor->text().trimmed();
+    if (!typed.isEmpty()) {
+        *found = findText(list, fieldSection(*list, column.lookup->valueField), typed);
+        if (*found < 0) {
+            *found = findPrefix(list, fieldSection(*list, column.lookup->displayField), typed);
+        }
+        if (*found < 0 && column.strict) {
+            complain(state_->editor, QStringLiteral("«%1» no está en la lista.").arg(typed));
+            return false;
+        }
+    }
+    *value = *found < 0 ? QVariant() : valueInList(column, *found);
     return true;
 }
 
@@ -162,20 +160,44 @@ void DataGrid::cancelEditor() {
 }
 
 void DataGrid::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) {
-    if (editor && editor == state_->editor) {
+    const bool own = editor && editor == state_->editor;
+    // Also while the window waits for its activation, behind a box: else the next widget has it.
+    const bool focused = own && window()->focusWidget() == editor;
+    if (own) {
         state_->editor.clear();
         state_->edited = QPersistentModelIndex();
+        state_->typed.reset();
     }
     QTableView::closeEditor(editor, hint);
+    if (focused) {
+        setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void DataGrid::paintEvent(QPaintEvent *event) {
+    QTableView::paintEvent(event);
+    if (!state_->emptyText.isEmpty() && state_->rows->rowCount() == 0) {
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+        painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12),
+                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, state_->emptyText);
+    }
 }
 
 void DataGrid::openList() {
     const int section = currentIndex().column();
     const GridColumn::Settings column = state_->bySection.value(section);
-    if (!column.lookup || !column.lookup->model) {
+    const bool calendar = !column.lookup && column.mask == CellMask::Date;
+    if (!calendar && (!column.lookup || !column.lookup->model)) {
         return;
     }
     if (!editorOpen() && !edit(currentIndex(), EditKeyPressed, nullptr)) {
+        return;
+    }
+    if (calendar) {
+        if (auto *date = qobject_cast<DateField *>(state_->editor.data())) {
+            date->openCalendar();
+        }
         return;
     }
     ListPopup *&list = state_->lists[column.field];
@@ -279,7 +301,7 @@ void DataGrid::keyPressEvent(QKeyEvent *event) {
         return;
     }
     if (event->key() == Qt::Key_Escape) {
-        if (state_->escape) {
+        if (state_->escape && rowEdit_) {
             const Handler handler = state_->escape;
             runGuarded(handler);
         } else {

@@ -3,6 +3,7 @@
 #include "toolkit/core/clock.h"
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
+#include "toolkit/forms/complaint.h"
 
 #include <QAction>
 #include <QCalendarWidget>
@@ -29,6 +30,9 @@ public:
         calendar_ = new QCalendarWidget(this);
         calendar_->setLocale(QLocale(QLocale::Spanish, QLocale::Mexico));
         calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+        // "mié." is wider than a day's number.
+        calendar_->setMinimumWidth(7 * (fontMetrics().horizontalAdvance(QStringLiteral("mié.")) +
+                                        fontMetrics().averageCharWidth() * 2));
         calendar_->setSelectedDate(date);
         layout->addWidget(calendar_);
         setFocusProxy(calendar_);
@@ -96,7 +100,7 @@ bool DateField::commit() {
         if (invalid_) {
             invalid_(wrong);
         } else {
-            complain(QStringLiteral("«%1» no es una fecha. Escriba día/mes/año.").arg(wrong));
+            complain(this, QStringLiteral("«%1» no es una fecha. Escriba día/mes/año.").arg(wrong));
         }
         return false;
     }
@@ -139,22 +143,15 @@ void DateField::openCalendar() {
 }
 
 void DateField::normalise(QString *text, int *position) const {
-    QString result;
-    int cursor = 0;
-    for (int i = 0; i < text->size(); ++i) {
-        if (i == *position) {
-            cursor = int(result.size());
-        }
-        const QChar c = text->at(i);
-        const bool separator = QStringLiteral("/-. ").contains(c);
-        if (separator && !result.isEmpty()) {
-            result += QLatin1Char('/');
-        } else if (c >= QLatin1Char('0') && c <= QLatin1Char('9')) {
-            result += c;
+    for (QChar &c : *text) {
+        if (QStringLiteral("/-. ").contains(c)) {
+            c = QLatin1Char('/');
         }
     }
-    *position = *position >= text->size() ? int(result.size()) : cursor;
-    *text = result;
+    keepOnly(text, position, [](QChar c, const QString &before) {
+        return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) ||
+               (c == QLatin1Char('/') && !before.isEmpty());
+    });
     LineField::normalise(text, position);
 }
 

@@ -3,6 +3,7 @@
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/focus_keeper.h"
+#include "toolkit/forms/keys.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -10,6 +11,8 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QWidget>
+
+#include <utility>
 
 namespace kaldo {
 
@@ -47,10 +50,6 @@ private:
 };
 
 namespace {
-
-bool isEnter(const QKeyEvent &event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 bool comesFromElsewhere(Qt::FocusReason reason) {
     return reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason ||
@@ -106,7 +105,7 @@ bool FieldEvents::keyPress(QKeyEvent *event) {
         return true;
     }
     if (!isEnter(*event)) {
-        return false;
+        return isMnemonic(*event);
     }
     if (event->isAutoRepeat()) {
         return true;
@@ -251,7 +250,7 @@ Field::~Field() {
 
 Field *Field::of(QWidget *widget) {
     for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
-        if (auto *field = dynamic_cast<Field *>(widget)) {
+        if (auto *field = dynamic_cast<Field *>(widget); field && field->events_) {
             return field;
         }
     }
@@ -280,6 +279,11 @@ void Field::pressEnter() {
 
 void Field::watchPart(QWidget *part) {
     part->installEventFilter(events_);
+}
+
+void Field::becomePartOf(Field *owner) {
+    delete std::exchange(events_, nullptr);
+    owner->watchPart(widget_);
 }
 
 }  // namespace kaldo

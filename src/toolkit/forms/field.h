@@ -28,7 +28,8 @@ public:
 
     virtual ~Field();
 
-    /// The field that a widget is or belongs to; null for other widgets.
+    /// The field that a widget is or belongs to, for an editor the one that it edits; null for
+    /// other widgets.
     static Field *of(QWidget *widget);
 
     QWidget *fieldWidget() const { return widget_; }
@@ -51,6 +52,9 @@ public:
 
     /// Widgets that together are this one field: its focus moves among them are no leave.
     void watchPart(QWidget *part);
+    /// Makes this field the editor of another one, which alone takes part in the protocol from then
+    /// on. Once, and no handlers are set here.
+    void becomePartOf(Field *owner);
 
 protected:
     explicit Field(QWidget *widget);

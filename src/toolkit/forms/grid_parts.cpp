@@ -1,71 +1,30 @@
 #include "toolkit/forms/grid_parts.h"
 
 #include "toolkit/core/clock.h"
-#include "toolkit/core/text.h"
 #include "toolkit/forms/date_field.h"
 #include "toolkit/forms/focus_keeper.h"
-#include "toolkit/forms/one_line_text.h"
+#include "toolkit/forms/keys.h"
+#include "toolkit/forms/money_field.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOptionButton>
-#include <QValidator>
+#include <QToolTip>
+
+#include <cmath>
+#include <limits>
 
 namespace kaldo {
 
 namespace {
 
-/// Limits what can be typed into a cell.
-class CellRules : public QValidator {
-public:
-    CellRules(const GridColumn::Settings &column, QObject *parent)
-        : QValidator(parent), column_(column) {}
-
-    State validate(QString &input, int &) const override {
-        for (QChar &c : input) {
-            if (breaksLine(c)) {
-                c = QLatin1Char(' ');
-            }
-            if (column_.upper) {
-                c = c.toUpper();
-            } else if (column_.lower) {
-                c = c.toLower();
-            }
-            if (!allows(c)) {
-                return Invalid;
-            }
-        }
-        if (column_.limit > 0) {
-            input = cutToWidth(input, column_.limit);
-        }
-        return Acceptable;
-    }
-
-private:
-    bool allows(QChar c) const {
-        if (!column_.allowed.isEmpty()) {
-            return column_.allowed.contains(c);
-        }
-        switch (column_.mask) {
-            case CellMask::Integer:
-                return c.isDigit() || c == QLatin1Char('-');
-            case CellMask::MoneyTight:
-            case CellMask::MoneySpaced:
-            case CellMask::Number:
-                return c.isDigit() || QStringLiteral(".,-$ ").contains(c);
-            case CellMask::Date:
-                return c.isDigit() || c == QLatin1Char('/');
-            case CellMask::Text:
-                break;
-        }
-        return true;
-    }
-
-    GridColumn::Settings column_;
-};
+/// A column that doesn't tell its digits takes what a 64-bit number has.
+constexpr int kIntegerCharacters = 20;
 
 bool isNumber(CellMask mask) {
     return mask != CellMask::Text && mask != CellMask::Date;
@@ -76,12 +35,64 @@ Qt::Alignment alignmentOf(const GridColumn::Settings &column) {
     return column.alignment.value_or(side) | Qt::AlignVCenter;
 }
 
-QString editText(const QVariant &value, const GridColumn::Settings &column) {
-    if (column.choices) {
-        return GridDelegate::shownText(value, column);
+
+/// A minus is what a column takes that doesn't tell its characters.
+bool takesMinus(const GridColumn::Settings &column) {
+    return column.allowed.isEmpty() || column.allowed.contains(QLatin1Char('-'));
+}
+
+LineField *integerEditor(const GridColumn::Settings &column, QWidget *parent) {
+    auto *editor = new NumberField(parent);
+    editor->setCharacters(column.limit > 0 ? column.limit : kIntegerCharacters);
+    qint64 highest = std::numeric_limits<qint64>::max();
+    if (column.limit > 0 && column.limit < std::numeric_limits<qint64>::digits10) {
+        highest = qint64(std::pow(10, column.limit)) - 1;
     }
-    const bool money = column.mask == CellMask::MoneyTight || column.mask == CellMask::MoneySpaced;
-    return maskedText(value, money ? CellMask::Number : column.mask);
+    editor->setRange(takesMinus(column) ? -highest : 0, highest);
+    return editor;
+}
+
+LineField *amountEditor(const GridColumn::Settings &column, QWidget *parent) {
+    auto *editor = new MoneyField(parent);
+    editor->setCharacters(column.limit);
+    editor->setNegativeAllowed(takesMinus(column));
+    return editor;
+}
+
+LineField *textEditor(const GridColumn::Settings &column, QWidget *parent) {
+    auto *editor = new TextField(parent);
+    editor->setCharacters(column.choices ? 0 : column.limit);
+    editor->setUpperCase(column.upper);
+    editor->setLowerCase(column.lower);
+    editor->setAllowed(column.allowed);
+    return editor;
+}
+
+LineField *editorOf(const GridColumn::Settings &column, QWidget *parent) {
+    if (column.lookup || column.mask == CellMask::Text) {
+        return textEditor(column, parent);
+    }
+    if (column.mask == CellMask::Date) {
+        return new DateField(parent);
+    }
+    return column.mask == CellMask::Integer ? integerEditor(column, parent)
+                                            : amountEditor(column, parent);
+}
+
+/// Puts the value of a cell into its editor.
+void fill(LineField *editor, const QVariant &value, const GridColumn::Settings &column) {
+    if (auto *amount = qobject_cast<MoneyField *>(editor)) {
+        if (value.isNull()) {
+            amount->setBlank();
+        } else {
+            amount->setValue(value.toDouble());
+        }
+    } else if (auto *date = qobject_cast<DateField *>(editor)) {
+        date->setDate(value.toDate());
+    } else {
+        editor->setText(GridDelegate::shownText(value, column));
+    }
+    editor->selectAll();
 }
 
 }  // namespace
@@ -121,74 +132,16 @@ QVariant ChoiceRows::headerData(int section, Qt::Orientation orientation, int ro
     return section == 0 ? QStringLiteral("VALOR") : QStringLiteral("TEXTO");
 }
 
-GridRows::GridRows(QObject *parent) : QSortFilterProxyModel(parent) {
-    setSortRole(Qt::EditRole);
-}
-
-void GridRows::setColumns(const QHash<int, GridColumn::Settings> &columns) {
-    columns_ = columns;
-}
-
-void GridRows::setFilter(int section, const QString &text) {
-    if (text.trimmed().isEmpty()) {
-        filters_.remove(section);
-    } else {
-        filters_[section] = foldedText(text.trimmed());
-    }
-    while (!filters_.isEmpty() && sourceModel()->canFetchMore({})) {
-        sourceModel()->fetchMore({});
-    }
-    invalidateRowsFilter();
-}
-
-void GridRows::clearFilters() {
-    filters_.clear();
-    invalidateRowsFilter();
-}
-
-Qt::ItemFlags GridRows::flags(const QModelIndex &index) const {
-    return QSortFilterProxyModel::flags(index) | Qt::ItemIsEditable;
-}
-
-QVariant GridRows::headerData(int section, Qt::Orientation orientation, int role) const {
-    const auto column = columns_.constFind(section);
-    if (orientation == Qt::Horizontal && column != columns_.constEnd()) {
-        if (role == Qt::DisplayRole) {
-            return column->title;
-        }
-        if (role == Qt::TextAlignmentRole) {
-            return int(alignmentOf(*column));
-        }
-    }
-    return QSortFilterProxyModel::headerData(section, orientation, role);
-}
-
-bool GridRows::filterAcceptsRow(int row, const QModelIndex &) const {
-    for (auto filter = filters_.cbegin(); filter != filters_.cend(); ++filter) {
-        const QVariant value = sourceModel()->index(row, filter.key()).data(Qt::EditRole);
-        if (!foldedText(GridDelegate::shownText(value, columns_.value(filter.key())))
-                 .contains(filter.value())) {
-            return false;
-        }
-    }
-    return true;
-}
-
-bool GridRows::lessThan(const QModelIndex &left, const QModelIndex &right) const {
-    const QVariant first = left.data(Qt::EditRole);
-    const QVariant second = right.data(Qt::EditRole);
-    if (first.typeId() == QMetaType::QString && second.typeId() == QMetaType::QString) {
-        return foldedText(first.toString()) < foldedText(second.toString());
-    }
-    return QSortFilterProxyModel::lessThan(left, right);
-}
-
 GridHeader::GridHeader(QWidget *parent) : QHeaderView(Qt::Horizontal, parent) {
     setHighlightSections(false);
     setSectionsClickable(true);
     setSectionsMovable(false);
     setMinimumSectionSize(16);
     connect(this, &QHeaderView::sectionResized, this, &GridHeader::placeFilters);
+    connect(this, &QHeaderView::sectionResized, this, [this] { resized_ = pressed_; });
+    // Queued behind the one that fits the column to its texts.
+    connect(this, &QHeaderView::sectionHandleDoubleClicked, this, &GridHeader::dragged,
+            Qt::QueuedConnection);
     connect(this, &QHeaderView::sectionMoved, this, &GridHeader::placeFilters);
 }
 
@@ -265,6 +218,21 @@ void GridHeader::placeFilters() {
     }
 }
 
+void GridHeader::mousePressEvent(QMouseEvent *event) {
+    pressed_ = true;
+    resized_ = false;
+    QHeaderView::mousePressEvent(event);
+}
+
+void GridHeader::mouseReleaseEvent(QMouseEvent *event) {
+    QHeaderView::mouseReleaseEvent(event);
+    pressed_ = false;
+    if (resized_) {
+        resized_ = false;
+        emit dragged();
+    }
+}
+
 bool GridHeader::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
@@ -282,6 +250,11 @@ bool GridHeader::eventFilter(QObject *watched, QEvent *event) {
 
 GridDelegate::GridDelegate(DataGrid *grid) : QStyledItemDelegate(grid), grid_(grid) {}
 
+ShownColumn GridDelegate::shownColumn(const GridColumn::Settings &column) {
+    return {column.title, alignmentOf(column),
+            [column](const QVariant &value) { return shownText(value, column); }};
+}
+
 QString GridDelegate::shownText(const QVariant &value, const GridColumn::Settings &column) {
     return column.choices ? column.choices->textOf(value.toString())
                           : maskedText(value, column.mask);
@@ -298,9 +271,10 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     if (!column) {
         return;
     }
-    option->text = column->yesNo ? QString() : shownText(index.data(Qt::EditRole), *column);
+    if (column->yesNo) {
+        option->text.clear();
+    }
     option->features.setFlag(QStyleOptionViewItem::HasDisplay, !option->text.isEmpty());
-    option->displayAlignment = alignmentOf(*column);
     option->textElideMode = Qt::ElideRight;
     if (grid_->state_->rowColor) {
         const QColor color = grid_->state_->rowColor(grid_->state_->rows->mapToSource(index).row());
@@ -354,15 +328,15 @@ void GridDelegate::paintBox(QPainter *painter, const QStyleOptionViewItem &optio
         const bool empty = value.isEmpty() || value == QLatin1String("N");
         box.state |= empty ? QStyle::State_Off : QStyle::State_NoChange;
     }
-    style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, grid_);
+    style->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, grid_);
 }
 
 QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                     const QModelIndex &index) const {
     const GridColumn::Settings *column = columnAt(index.column());
-    auto *editor = new QLineEdit(parent);
+    LineField *editor = editorOf(column ? *column : GridColumn::Settings(), parent);
     editor->setObjectName(QStringLiteral("cellEditor"));
-    editor->setFrame(true);
+    editor->becomePartOf(grid_);
     // A field like others, not in the paler colours in which a grid marks its rows.
     QPalette colours = editor->palette();
     for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText}) {
@@ -372,24 +346,28 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     if (column) {
         editor->setAccessibleName(column->title);
         editor->setAlignment(alignmentOf(*column));
-        editor->setValidator(new CellRules(*column, editor));
     }
-    grid_->state_->editor = editor;
-    grid_->state_->edited = index;
-    grid_->watchPart(editor);
+    DataGrid::State *state = grid_->state_.get();
+    state->editor = editor;
+    state->edited = index;
+    state->typed.reset();
+    const auto typed = [state, editor] {
+        if (state->editor == editor) {
+            state->typed = editor->text();
+        }
+    };
+    connect(editor, &QLineEdit::textEdited, grid_, typed);
+    if (auto *date = qobject_cast<DateField *>(editor)) {
+        connect(date, &DateField::dateEdited, grid_, typed);
+    }
     return editor;
 }
 
 void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const {
-    auto *line = static_cast<QLineEdit *>(editor);
     const GridColumn::Settings *column = columnAt(index.column());
-    if (!column || line->isModified()) {
-        return;  // the model told a change while someone types
+    if (column && !grid_->state_->typed) {  // the model may tell a change while someone types
+        fill(static_cast<LineField *>(editor), index.data(Qt::EditRole), *column);
     }
-    const QString text = editText(index.data(Qt::EditRole), *column);
-    grid_->state_->textBefore = text;
-    line->setText(text);
-    line->selectAll();
 }
 
 void GridDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
@@ -409,22 +387,23 @@ bool GridDelegate::eventFilter(QObject *watched, QEvent *event) {
         }
         return false;
     }
-    if (event->type() != QEvent::KeyPress) {
-        return false;  // leaving the cell is the field's matter, not the editor's
+    // Leaving the cell is the field's matter, not the editor's.
+    return event->type() == QEvent::KeyPress && editorKey(static_cast<QKeyEvent *>(event));
+}
+
+bool GridDelegate::editorKey(QKeyEvent *key) {
+    if (isEnter(*key)) {
+        if (!key->isAutoRepeat() && grid_->commitEditor()) {
+            // The handlers save, reset and reopen the model: not from inside its editor.
+            FocusKeeper::get().post([grid = QPointer<DataGrid>(grid_)] {
+                if (grid) {
+                    grid->pressEnter();
+                }
+            });
+        }
+        return true;
     }
-    auto *key = static_cast<QKeyEvent *>(event);
     switch (key->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (!key->isAutoRepeat() && grid_->commitEditor()) {
-                // The handlers save, reset and reopen the model: not from inside its editor.
-                FocusKeeper::get().post([grid = QPointer<DataGrid>(grid_)] {
-                    if (grid) {
-                        grid->pressEnter();
-                    }
-                });
-            }
-            return true;
         case Qt::Key_Escape:
             grid_->cancelEditor();
             return true;
@@ -445,38 +424,35 @@ bool GridDelegate::eventFilter(QObject *watched, QEvent *event) {
     }
 }
 
-bool GridDelegate::read(const QString &text, const GridColumn::Settings &column, QVariant *value,
-                        QString *complaint) {
-    const QString typed = text.trimmed();
-    if (column.mask != CellMask::Text && typed.isEmpty()) {
-        *value = {};
-        return true;
+bool GridDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+                             const QStyleOptionViewItem &option, const QModelIndex &index) {
+    if (event->type() != QEvent::ToolTip || !index.isValid()) {
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
     }
-    bool well = true;
-    switch (column.mask) {
-        case CellMask::Text:
-            *value = text;
-            break;
-        case CellMask::Integer:
-            *value = typed.toLongLong(&well);
-            *complaint = QStringLiteral("«%1» no es un número entero.").arg(typed);
-            break;
-        case CellMask::Number:
-        case CellMask::MoneyTight:
-        case CellMask::MoneySpaced: {
-            double amount = 0;
-            well = parseMoney(typed, &amount);
-            *value = amount;
-            *complaint = QStringLiteral("«%1» no es un importe. Ejemplo: 1,234.50").arg(typed);
-            break;
-        }
-        case CellMask::Date:
-            *value = DateField::parse(typed);
-            well = value->toDate().isValid();
-            *complaint = QStringLiteral("«%1» no es una fecha. Escriba día/mes/año.").arg(typed);
-            break;
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const int margin = view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1;
+    const bool cut =
+        cell.fontMetrics.horizontalAdvance(cell.text) > view->visualRect(index).width() - 2 * margin;
+    QToolTip::showText(event->globalPos(), cut ? cell.text : QString(), view);
+    return true;
+}
+
+bool GridDelegate::read(LineField *editor, const QString &typed, QVariant *value) {
+    if (!editor->commit()) {
+        return false;
     }
-    return well;
+    const bool blank = typed.trimmed().isEmpty();
+    if (auto *number = qobject_cast<NumberField *>(editor)) {
+        *value = blank ? QVariant() : QVariant(number->value());
+    } else if (auto *amount = qobject_cast<MoneyField *>(editor)) {
+        *value = blank ? QVariant() : QVariant(amount->value());
+    } else if (auto *date = qobject_cast<DateField *>(editor)) {
+        *value = blank ? QVariant() : QVariant(date->date());
+    } else {
+        *value = typed;
+    }
+    return true;
 }
 
 GridFooter::GridFooter(DataGrid *grid) : QWidget(grid), grid_(grid) {

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "toolkit/forms/data_grid.h"
+#include "toolkit/forms/line_field.h"
+#include "toolkit/forms/shown_rows.h"
 
 #include <QHeaderView>
-#include <QSortFilterProxyModel>
 #include <QStyledItemDelegate>
-
-class QLineEdit;
 
 namespace kaldo {
 
@@ -30,28 +29,6 @@ private:
     int code_;
 };
 
-/// The rows that a grid shows: filtered by the line under the titles, in the order chosen, with the
-/// grid's titles. All cells count as editable: the grid itself decides what is.
-class GridRows : public QSortFilterProxyModel {
-public:
-    explicit GridRows(QObject *parent);
-
-    void setColumns(const QHash<int, GridColumn::Settings> &columns);
-    void setFilter(int section, const QString &text);
-    void clearFilters();
-
-    Qt::ItemFlags flags(const QModelIndex &index) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
-protected:
-    bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
-    bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
-
-private:
-    QHash<int, GridColumn::Settings> columns_;
-    QHash<int, QString> filters_;
-};
-
 /// Titles, with the line of filters under them when it is on.
 class GridHeader : public QHeaderView {
     Q_OBJECT
@@ -67,8 +44,12 @@ public:
 signals:
     void filterChanged(int section, const QString &text);
     void filterLeft();
+    /// The mouse has made columns wider or narrower.
+    void dragged();
 
 protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;
     void updateGeometries() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -79,6 +60,8 @@ private:
 
     QHash<int, QLineEdit *> filters_;
     bool filtering_ = false;
+    bool pressed_ = false;
+    bool resized_ = false;
 };
 
 /// Shows cells under their masks and makes their editors.
@@ -96,17 +79,21 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) override;
 
     /// What a cell of the column shows for a value.
     static QString shownText(const QVariant &value, const GridColumn::Settings &column);
-    /// What is typed, as the raw value of the column; false and a complaint if it is none.
-    static bool read(const QString &text, const GridColumn::Settings &column, QVariant *value,
-                     QString *complaint);
+    static ShownColumn shownColumn(const GridColumn::Settings &column);
+    /// The raw value of what was typed into the editor of a cell, NULL for a blank that is no text;
+    /// false if the editor refused it, and has told why.
+    static bool read(LineField *editor, const QString &typed, QVariant *value);
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    bool editorKey(QKeyEvent *key);
     const GridColumn::Settings *columnAt(int section) const;
     void paintBox(QPainter *painter, const QStyleOptionViewItem &option,
                   const QString &value) const;
@@ -138,12 +125,13 @@ struct DataGrid::State {
     Handler escape;
     Handler doubleClick;
     std::function<QColor(int)> rowColor;
-    GridRows *rows = nullptr;
+    ShownRows *rows = nullptr;
     GridHeader *header = nullptr;
     GridFooter *footer = nullptr;
-    QPointer<QLineEdit> editor;
+    QPointer<LineField> editor;
     QPersistentModelIndex edited;
-    QString textBefore;
+    std::optional<QString> typed;  ///< into the editor, since it was filled
+    QString emptyText;
     int shownRows = 8;
     bool rowSelection = true;
     bool inGeometry = false;
@@ -152,7 +140,7 @@ struct DataGrid::State {
     QStringList fields;  ///< of the model, when the columns were last arranged
     bool readOnly = false;
     bool tabHeld = false;
-    bool sortable = false;
+    bool sortable = true;
     int sortedBy = -1;
     Qt::SortOrder order = Qt::AscendingOrder;
 };

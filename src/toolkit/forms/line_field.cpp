@@ -1,17 +1,19 @@
 #include "toolkit/forms/line_field.h"
 
 #include "toolkit/core/text.h"
+#include "toolkit/forms/complaint.h"
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/one_line_text.h"
+#include "toolkit/forms/read_only_look.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QStyleOptionFrame>
-#include <QToolTip>
 #include <QValidator>
 
 #include <algorithm>
+#include <utility>
 
 namespace kaldo {
 
@@ -23,23 +25,6 @@ constexpr int kNarrowestShown = 10;
 
 bool isDigit(QChar c) {
     return c >= QLatin1Char('0') && c <= QLatin1Char('9');
-}
-
-/// Keeps the characters that `keep` lets through, with the cursor behind the same ones.
-template <typename Keep>
-void filterText(QString *text, int *position, Keep keep) {
-    QString kept;
-    int cursor = 0;
-    for (int i = 0; i < text->size(); ++i) {
-        if (i == *position) {
-            cursor = int(kept.size());
-        }
-        if (keep(text->at(i), kept)) {
-            kept += text->at(i);
-        }
-    }
-    *position = *position >= text->size() ? int(kept.size()) : cursor;
-    *text = kept;
 }
 
 }  // namespace
@@ -62,6 +47,12 @@ private:
 LineField::LineField(QWidget *parent) : QLineEdit(parent), Field(this) {
     setValidator(new LineRules(this));
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    connect(this, &QLineEdit::textEdited, this, &LineField::tellPassedOver);
+    // Of what the program sets nothing is told.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        passedOver_.clear();
+        cut_ = false;
+    });
 }
 
 void LineField::setCharacters(int characters) {
@@ -82,11 +73,12 @@ void LineField::setFieldReadOnly(bool readOnly) {
     }
     setReadOnly(readOnly);
     setFocusPolicy(focus);
-    QPalette colors;  // the rest stays with the application
-    if (readOnly) {
-        colors.setBrush(QPalette::Base, QApplication::palette(this).window());
-    }
-    setPalette(colors);
+    showReadOnly(this, readOnly);
+}
+
+bool LineField::event(QEvent *event) {
+    followColours(this, isReadOnly(), *event);
+    return QLineEdit::event(event);
 }
 
 QSize LineField::sizeHint() const {
@@ -118,6 +110,7 @@ void LineField::normalise(QString *text, int *position) const {
         }
     }
     int excess = width_ > 0 ? characterCount(*text) - width_ : 0;
+    cut_ = cut_ || excess > 0;
     // What is beyond the width is the end of what was just typed or pasted, not of what stood.
     while (excess > 0 && !text->isEmpty()) {
         const int at = *position > 0 ? *position - 1 : int(text->size()) - 1;
@@ -136,11 +129,32 @@ void LineField::paintEvent(QPaintEvent *event) {
     paintFocusRing(this);
 }
 
-void LineField::complain(const QString &text) {
-    setProperty("complaint", text);
-    QApplication::beep();
-    if (isVisible()) {
-        QToolTip::showText(mapToGlobal(rect().bottomLeft()), text, this);
+void LineField::keepOnly(
+    QString *text, int *position,
+    const std::function<bool(QChar c, const QString &before)> &keep) const {
+    QString kept;
+    int cursor = 0;
+    for (int i = 0; i < text->size(); ++i) {
+        const QChar c = text->at(i);
+        if (i == *position) {
+            cursor = int(kept.size());
+        }
+        if (keep(c, kept)) {
+            kept += c;
+        } else if (!c.isSpace()) {
+            passedOver_ += c;
+        }
+    }
+    *position = *position >= text->size() ? int(kept.size()) : cursor;
+    *text = kept;
+}
+
+void LineField::tellPassedOver() {
+    const QString passed = std::exchange(passedOver_, {});
+    if (!passed.isEmpty()) {
+        complain(this, QStringLiteral("Aquí no se acepta «%1».").arg(passed));
+    } else if (std::exchange(cut_, false)) {
+        complain(this, QStringLiteral("Aquí caben %1 caracteres.").arg(width_));
     }
 }
 
@@ -163,8 +177,8 @@ void TextField::setAllowed(const QString &characters) {
 
 void TextField::normalise(QString *text, int *position) const {
     if (!allowed_.isEmpty()) {
-        filterText(text, position,
-                   [this](QChar c, const QString &) { return allowed_.contains(c); });
+        keepOnly(text, position,
+                 [this](QChar c, const QString &) { return allowed_.contains(c); });
     }
     if (upper_ || lower_) {
         for (QChar &c : *text) {
@@ -201,14 +215,15 @@ void NumberField::setValue(qint64 value) {
 bool NumberField::commit() {
     const bool fits = text().isEmpty() || (hasValue() && value() >= lowest_ && value() <= highest_);
     if (!fits) {
-        complain(QStringLiteral("El número debe estar entre %1 y %2.").arg(lowest_).arg(highest_));
+        complain(
+            this, QStringLiteral("El número debe estar entre %1 y %2.").arg(lowest_).arg(highest_));
     }
     return fits;
 }
 
 void NumberField::normalise(QString *text, int *position) const {
-    filterText(text, position, [this](QChar c, const QString &before) {
-        return isDigit(c) || (c == QLatin1Char('-') && before.isEmpty() && lowest_ < 0);
+    keepOnly(text, position, [](QChar c, const QString &before) {
+        return isDigit(c) || (c == QLatin1Char('-') && before.isEmpty());
     });
     LineField::normalise(text, position);
 }

@@ -4,10 +4,13 @@
 
 #include <QLineEdit>
 
+#include <functional>
+
 namespace kaldo {
 
 /// A one-line field. Widths are characters (code points): typing stops there and pasted text is
-/// cut there; line breaks and other control characters become blanks.
+/// cut there, so that what stood stays whole; line breaks and other control characters become
+/// blanks.
 class LineField : public QLineEdit, public Field {
     Q_OBJECT
 
@@ -32,16 +35,22 @@ public:
 
 protected:
     /// What of the text may stand; called for every change, typed, pasted or set. `position` is the
-    /// cursor and may be moved along.
+    /// cursor and may be moved along. What a person typed or pasted in vain is told.
     virtual void normalise(QString *text, int *position) const;
+    /// Keeps the characters that `keep` lets through, with the cursor behind the same ones; `before`
+    /// is what was kept of the text so far.
+    void keepOnly(QString *text, int *position,
+                  const std::function<bool(QChar c, const QString &before)> &keep) const;
 
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-
-    /// Tells what is wrong with the text, in a hint under the field.
-    void complain(const QString &text);
 
 private:
     friend class LineRules;
+    void tellPassedOver();
+
+    mutable QString passedOver_;
+    mutable bool cut_ = false;
     int width_ = 0;
     int shown_ = 0;
 };
@@ -72,8 +81,9 @@ private:
     QString allowed_;
 };
 
-/// A whole number within limits. Letters can't be typed; a number outside is told through the hint
-/// beside the field, keeps the focus and the text.
+/// A whole number within limits. Letters can't be typed; a number outside, a negative one where
+/// there are none among them, is told through the hint beside the field, keeps the focus and the
+/// text.
 class NumberField : public LineField {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "toolkit/forms/list_popup.h"
 
 #include "toolkit/core/clock.h"
+#include "toolkit/forms/shown_rows.h"
 
 #include <QElapsedTimer>
 #include <QHeaderView>
@@ -8,7 +9,6 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
-#include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -105,75 +105,12 @@ int findText(QAbstractItemModel *model, int section, const QString &text) {
                    [&](const QString &candidate) { return candidate.trimmed() == wanted; });
 }
 
-/// The rows that pass the filter, with the titles and masks of the list.
-class ListFilter : public QSortFilterProxyModel {
-public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
-
-    void setColumns(const QHash<int, ListColumn> &columns) { columns_ = columns; }
-    void setWords(const QString &text) {
-        wanted_ = foldedText(text.trimmed());
-        invalidateRowsFilter();
-    }
-    bool filters() const { return !wanted_.isEmpty(); }
-
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        const auto column = columns_.constFind(section);
-        if (orientation == Qt::Horizontal && column != columns_.constEnd()) {
-            if (role == Qt::DisplayRole) {
-                return column->title;
-            }
-            if (role == Qt::TextAlignmentRole) {
-                return alignmentOf(*column);
-            }
-        }
-        return QSortFilterProxyModel::headerData(section, orientation, role);
-    }
-
-    QVariant data(const QModelIndex &index, int role) const override {
-        const auto column = columns_.constFind(index.column());
-        if (column != columns_.constEnd()) {
-            if (role == Qt::DisplayRole) {
-                return maskedText(QSortFilterProxyModel::data(index, Qt::EditRole), column->mask);
-            }
-            if (role == Qt::TextAlignmentRole) {
-                const bool words = column->mask == CellMask::Text || column->mask == CellMask::Date;
-                return int((words ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-            }
-        }
-        return QSortFilterProxyModel::data(index, role);
-    }
-
-protected:
-    static int alignmentOf(const ListColumn &column) {
-        const bool words = column.mask == CellMask::Text || column.mask == CellMask::Date;
-        return int((words ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-    }
-
-    bool filterAcceptsRow(int row, const QModelIndex &) const override {
-        if (wanted_.isEmpty()) {
-            return true;
-        }
-        for (auto column = columns_.cbegin(); column != columns_.cend(); ++column) {
-            const QVariant value = sourceModel()->index(row, column.key()).data(Qt::EditRole);
-            if (foldedText(maskedText(value, column->mask)).contains(wanted_)) {
-                return true;
-            }
-        }
-        return false;
-    }
-
-private:
-    QHash<int, ListColumn> columns_;
-    QString wanted_;
-};
-
 ListPopup::ListPopup(QWidget *owner)
     : QFrame(owner, Qt::Popup),
       anchor_(owner),
       table_(new QTableView(this)),
       filter_(new QLineEdit(this)),
-      proxy_(new ListFilter(this)) {
+      proxy_(new ShownRows(this)) {
     setObjectName(QStringLiteral("listPopup"));
     setFrameShape(QFrame::StyledPanel);
     auto *rows = new QVBoxLayout(this);
@@ -207,6 +144,9 @@ ListPopup::ListPopup(QWidget *owner)
 
 void ListPopup::setSource(const LookupSource &source) {
     source_ = source;
+    if (source.filtered) {
+        setFiltering(true);
+    }
     if (isVisible()) {
         proxy_->setSourceModel(source.model);
     }
@@ -220,7 +160,7 @@ void ListPopup::setFiltering(bool on) {
 }
 
 void ListPopup::arrangeColumns() {
-    QHash<int, ListColumn> columns;
+    QHash<int, ShownColumn> columns;
     QHeaderView *header = table_->horizontalHeader();
     const int letter = fontMetrics().averageCharWidth();
     for (int section = 0; section < proxy_->columnCount(); ++section) {
@@ -232,7 +172,11 @@ void ListPopup::arrangeColumns() {
         if (section < 0) {
             continue;
         }
-        columns[section] = column;
+        const bool words = column.mask == CellMask::Text || column.mask == CellMask::Date;
+        columns[section] = {column.title, (words ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter,
+                            [mask = column.mask](const QVariant &value) {
+                                return maskedText(value, mask);
+                            }};
         table_->setColumnHidden(section, false);
         header->moveSection(header->visualIndex(section), place++);
         const int title = fontMetrics().horizontalAdvance(column.title);
@@ -265,6 +209,7 @@ void ListPopup::open(int row) {
         return;
     }
     typed_.clear();
+    filter_->clear();
     fetchUntil(source_.model, std::max(row, kRowsShown));
     proxy_->setSourceModel(source_.model);
     setEnabled(true);
@@ -313,10 +258,25 @@ void ListPopup::pick(const QModelIndex &index) {
 
 void ListPopup::applyFilter() {
     proxy_->setWords(filter_->text());
+    markBest();
     fetchRest();
-    if (!table_->currentIndex().isValid() && proxy_->rowCount() > 0) {
-        table_->selectRow(0);
+}
+
+void ListPopup::markBest() {
+    const QString wanted = filter_->text().trimmed();
+    if (!source_.model || wanted.isEmpty() || proxy_->rowCount() == 0) {
+        return;
     }
+    const int stored = fieldSection(*source_.model, source_.valueField);
+    int best = 0;
+    for (int row = 0; row < proxy_->rowCount(); ++row) {
+        if (proxy_->index(row, stored).data(Qt::EditRole).toString().trimmed() == wanted) {
+            best = row;
+            break;
+        }
+    }
+    table_->selectRow(best);
+    table_->scrollTo(table_->currentIndex());
 }
 
 void ListPopup::fetchRest() {
@@ -328,9 +288,9 @@ void ListPopup::fetchRest() {
             return;
         }
         source_.model->fetchMore({});
-    }
-    if (!table_->currentIndex().isValid() && proxy_->rowCount() > 0) {
-        table_->selectRow(0);
+        if (table_->currentIndex().row() <= 0) {
+            markBest();  // nobody has gone on from the first one
+        }
     }
 }
 

@@ -43,10 +43,13 @@ struct LookupSource {
     QString valueField;    ///< what the field or cell stores
     QString displayField;  ///< what it shows, and what typing seeks
     QList<ListColumn> columns;
+    /// The list opens with a line for words, which the columns are filtered by.
+    bool filtered = false;
 };
 
 /// The drop-down of LookupField and of the grid's look-up columns: a table with titles, and a
-/// filter line when filtering is on. Enter or a click picks, Escape cancels.
+/// filter line when filtering is on: rows stay that hold each of its words in any column, and the
+/// row whose value it is comes first. Enter or a click picks, Escape cancels.
 class ListPopup : public QFrame {
     Q_OBJECT
 
@@ -78,6 +81,7 @@ private:
     void pick(const QModelIndex &index);
     void applyFilter();
     void fetchRest();
+    void markBest();
     void arrangeColumns();
     void place();
     bool handleKey(QKeyEvent *event);
@@ -87,7 +91,7 @@ private:
     LookupSource source_;
     QTableView *table_;
     QLineEdit *filter_;
-    class ListFilter *proxy_;
+    class ShownRows *proxy_;
     QString typed_;
 };
 

@@ -1,6 +1,7 @@
 #include "toolkit/forms/lookup_field.h"
 
 #include "toolkit/forms/application.h"
+#include "toolkit/forms/complaint.h"
 
 #include <QKeyEvent>
 #include <QResizeEvent>
@@ -115,7 +116,7 @@ bool LookupField::commit() {
         found = findPrefix(source_.model, section, text());
     }
     if (found < 0) {
-        complain(QStringLiteral("«%1» no está en la lista (F4 la muestra).").arg(text()));
+        complain(this, QStringLiteral("«%1» no está en la lista (F4 la muestra).").arg(text()));
         selectAll();
         return false;
     }

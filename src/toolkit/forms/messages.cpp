@@ -6,7 +6,10 @@
 
 #include <QDialog>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -31,6 +34,21 @@ QString pictureOf(MessageKind kind) {
     return QStringLiteral("information");
 }
 
+/// "presione cualquier tecla para continuar" is meant so.
+bool takesAnyKey(const Message &message) {
+    return message.kind != MessageKind::Confirmation &&
+           message.text.contains(QStringLiteral("presione cualquier tecla"), Qt::CaseInsensitive);
+}
+
+/// Keys that only change others press nothing.
+bool stands(const QKeyEvent &event) {
+    const int key = event.key();
+    const bool changes = (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) ||
+                         (key >= Qt::Key_Super_L && key <= Qt::Key_Hyper_R) ||
+                         key == Qt::Key_AltGr || key == Qt::Key_unknown;
+    return !changes && !event.isAutoRepeat();
+}
+
 class Box : public QDialog {
 public:
     Box(const Message &message, QWidget *parent) : QDialog(parent) {
@@ -43,6 +61,18 @@ public:
         rows->setSizeConstraint(QLayout::SetFixedSize);
         rows->addLayout(content(message));
         rows->addLayout(buttons(message.kind));
+        anyKey_ = takesAnyKey(message);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (anyKey_ && event->type() == QEvent::KeyPress) {
+            if (stands(*static_cast<QKeyEvent *>(event))) {
+                accept();
+            }
+            return true;
+        }
+        return QDialog::eventFilter(watched, event);
     }
 
 private:
@@ -88,12 +118,33 @@ private:
         button->setText(text);
         button->setMinimumWidth(fontMetrics().averageCharWidth() * 14);
         connect(button, &QPushButton::clicked, this, [this, result] { done(result); });
+        button->installEventFilter(this);
         line->addWidget(button);
         if (line->count() == 2) {  // the stretch and the first button
             button->setFocus();
             setAttribute(Qt::WA_KeyboardFocusChange);
         }
     }
+
+    bool anyKey_ = false;
+};
+
+/// Selects the text of the field that was told of: the next key replaces what was refused. Where
+/// the keys were sent elsewhere meanwhile, they stay there.
+class TextReselection {
+public:
+    explicit TextReselection(const QWidget *window)
+        : line_(qobject_cast<QLineEdit *>(window ? window->focusWidget() : nullptr)) {}
+    ~TextReselection() {
+        if (line_ && !line_->isReadOnly() && line_->window()->focusWidget() == line_) {
+            line_->selectAll();
+        }
+    }
+    TextReselection(const TextReselection &) = delete;
+    TextReselection &operator=(const TextReselection &) = delete;
+
+private:
+    QPointer<QLineEdit> line_;
 };
 
 }  // namespace
@@ -137,6 +188,7 @@ Answer BoxMessages::show(const Message &message) {
         return Answer::Ended;
     }
     const ActivationReturn activation;
+    const TextReselection reselection(windowInFront());
     Box box(message, windowInFront());
     const int result = box.exec();
     if (ending()) {

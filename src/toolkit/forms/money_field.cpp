@@ -1,5 +1,6 @@
 #include "toolkit/forms/money_field.h"
 
+#include "toolkit/forms/complaint.h"
 #include "toolkit/forms/focus.h"
 
 #include <QFocusEvent>
@@ -66,7 +67,7 @@ bool MoneyField::commit() {
     double amount = 0;
     QString complaint;
     if (!readTyped(&amount, &complaint)) {
-        complain(complaint);
+        complain(this, complaint);
         selectAll();
         return false;
     }
@@ -103,18 +104,7 @@ void MoneyField::showAtRest() {
 
 void MoneyField::normalise(QString *text, int *position) const {
     static const QString kept = QStringLiteral("0123456789.,-$ ");
-    QString result;
-    int cursor = 0;
-    for (int i = 0; i < text->size(); ++i) {
-        if (i == *position) {
-            cursor = int(result.size());
-        }
-        if (kept.contains(text->at(i))) {
-            result += text->at(i);
-        }
-    }
-    *position = *position >= text->size() ? int(result.size()) : cursor;
-    *text = result;
+    keepOnly(text, position, [](QChar c, const QString &) { return kept.contains(c); });
     LineField::normalise(text, position);
 }
 
