@@ -1,8 +1,15 @@
 #include "app/screen.h"
 
 #include "toolkit/forms/application.h"
+#include "toolkit/forms/choice.h"
+#include "toolkit/forms/data_grid.h"
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/line_field.h"
+
+#include <QKeyEvent>
+#include <QTextDocument>
+
+#include <algorithm>
 
 namespace kaldo {
 
@@ -23,6 +30,41 @@ Screen::Screen(Context &context, const QString &name, const QString &title) : Sc
 void Screen::open() {
     runGuarded([this] { formCreate(); });
     runGuarded([this] { activated(); });
+}
+
+bool Screen::holdsTypedWork() const {
+    const QList<DataGrid *> grids = findChildren<DataGrid *>();
+    const QList<LineField *> lines = findChildren<LineField *>();
+    const QList<Memo *> memos = findChildren<Memo *>();
+    return std::any_of(grids.begin(), grids.end(),
+                       [](const DataGrid *grid) { return grid->rowEdit(); }) ||
+           std::any_of(lines.begin(), lines.end(),
+                       [](const LineField *line) {
+                           return line->isModified() && !line->isReadOnly() &&
+                                  !line->text().trimmed().isEmpty();
+                       }) ||
+           std::any_of(memos.begin(), memos.end(), [](const Memo *memo) {
+               return memo->document()->isModified() && !memo->isReadOnly() &&
+                      !memo->text().isEmpty();
+           });
+}
+
+void Screen::keyPressEvent(QKeyEvent *event) {
+    if (event->key() != Qt::Key_Escape || event->modifiers() != Qt::NoModifier) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (event->isAutoRepeat()) {
+        return;
+    }
+    runGuarded([this] {
+        if (!holdsTypedWork() ||
+            messages().confirm(QStringLiteral(
+                "¿Desea cerrar la ventana? Lo que se escribió no se ha guardado.")) ==
+                Answer::Yes) {
+            emit closeRequested();
+        }
+    });
 }
 
 Dialog::Dialog(Context &context, const QString &name, const QString &title) : ScreenBase(context) {

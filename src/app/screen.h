@@ -62,6 +62,11 @@ signals:
 
 protected:
     virtual void formCreate() = 0;
+    /// Something stands typed that closing would lose: in a field, or in an open row.
+    virtual bool holdsTypedWork() const;
+    /// Escape closes the screen where nothing on it has a use for that key; it asks first where
+    /// typed work would be lost.
+    void keyPressEvent(QKeyEvent *event) override;
 };
 
 /// A screen that is shown modally and lives for the whole run: its constructor is light, its

@@ -4,6 +4,7 @@
 #include "shell/menu_entries.h"
 #include "shell/side_bar.h"
 #include "tests/support/accessibility.h"
+#include "toolkit/forms/line_field.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -24,7 +25,7 @@ public:
     PlainScreen(Context &context, const QString &name, bool printer = false)
         : Screen(context, name, "Prueba"), printer_(printer) {
         setFixedSize(400, 200);
-        auto *field = new QLineEdit(this);
+        auto *field = new TextField(this);
         field->setObjectName("field");
         setFocusProxy(field);
     }
@@ -120,6 +121,29 @@ TEST(MainWindow, OneChildAtATimeAndAFreshOneEachTime) {
     EXPECT_EQ(station.window().childScreen(), nullptr);
     letGo();
     EXPECT_EQ(station.window().findChildren<QMdiSubWindow *>().size(), 0);
+}
+
+TEST(MainWindow, EscapeClosesAScreenAndAsksBeforeTypedWorkIsLost) {
+    ShellStation station;
+    station.logIn("admin", "admin");
+    station.window().openEntry("B8");
+    settle();
+    press(Qt::Key_I, Qt::AltModifier);
+    press(Qt::Key_Escape);
+    ASSERT_NE(station.window().childScreen(), nullptr) << "the first one gives the row back";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(station.window().childScreen(), nullptr);
+
+    setPlain(station, "E1", "FRM998");
+    station.window().openEntry("E1");
+    settle();
+    typeText("Pérez");
+    station.messages.expectConfirmation("*", Answer::No);
+    press(Qt::Key_Escape);
+    EXPECT_NE(plain(station), nullptr);
+    child<TextField>(plain(station), "field")->setText("Pérez");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(plain(station), nullptr) << "what the program shows is no typed work";
 }
 
 TEST(MainWindow, ScreenThatFailsHalfWayStaysOpen) {
