@@ -192,7 +192,9 @@ void Options::saveGeneral(IniFile &ini) const {
         ini.setValue(kUser, QStringLiteral("cambiar_pass"), QStringLiteral("S"));
     }
     ini.setValue(QStringLiteral("Ayuda"), QStringLiteral("Ayuda"), ArchivoAyuda);
-    if (SkinName != QLatin1String("Windows")) {
+    // The look that a file without the key stands for is written where it replaces another.
+    if (SkinName != ini.value(QStringLiteral("Sistema"), QStringLiteral("skinname"),
+                              QStringLiteral("Windows"))) {
         ini.setValue(QStringLiteral("Sistema"), QStringLiteral("skinname"), SkinName);
         ini.setValue(QStringLiteral("Ambiente"), QStringLiteral("skin"), Skin);
     }

@@ -82,20 +82,13 @@ void FRM000::formCreate() {
     Ini();
     MainSkin();
     context_.session.AnioActual = static_cast<qint16>(context_.clock.today().year());
-    const QString stem =
-        pictureStem(context_.ini.value(QStringLiteral("Ambiente"), QStringLiteral("skin"),
-                                       QStringLiteral("C:\\KALDO\\Ini\\skinblue.dll")));
+    const QString stem = skinStem();
     splashPicture_ = pictureFile(stem + QStringLiteral("_splash.svg"));
     if (!QFileInfo::exists(splashPicture_)) {
         splashPicture_ = pictureFile(stem + QStringLiteral("_splash.png"));
     }
     if (!backdrop_->hasPicture()) {
-        backdrop_->setPicture(pictureFile(stem + QStringLiteral(".png")));
-        // What is written on a picture takes the colours of the scheme that it was drawn for.
-        if (const ColourScheme *scheme = schemeOfPicture(stem);
-            scheme != nullptr && backdrop_->hasPicture()) {
-            backdrop_->setCaptionColours(scheme->caption, scheme->link);
-        }
+        showWallpaper();
     }
 }
 
@@ -119,13 +112,40 @@ void FRM000::MainSkin() {
     if (scheme == nullptr) {
         return;  // any other name leaves the look as it is
     }
-    applyScheme(*scheme);
+    applyScheme(scheme);
     backdrop_->setPicture(pictureFile(pictureOf(*scheme, context_.clock.today())));
     if (backdrop_->hasPicture()) {
         backdrop_->setCaptionColours(scheme->caption, scheme->link);
     }
     sideBar_->setHeaderColour(scheme->kaldoColor);
     panels_->setBarColour(scheme->kaldoColor);
+}
+
+void FRM000::changeSkin() {
+    context_.session.SkinName = context_.ini.value(
+        QStringLiteral("Sistema"), QStringLiteral("skinname"), QStringLiteral("Windows"));
+    const ColourScheme *scheme = schemeNamed(context_.session.SkinName);
+    applyScheme(scheme);
+    // Not that of the time of the year, whose dates may fail: it comes with the next login.
+    showWallpaper();
+    const QColor accent = scheme != nullptr ? scheme->kaldoColor : baseAccent();
+    sideBar_->setHeaderColour(accent);
+    panels_->setBarColour(accent);
+}
+
+void FRM000::showWallpaper() {
+    const QString stem = skinStem();
+    backdrop_->setPicture(pictureFile(stem + QStringLiteral(".png")));
+    // What is written on a picture takes the colours of the scheme that it was drawn for.
+    if (const ColourScheme *scheme = schemeOfPicture(stem);
+        scheme != nullptr && backdrop_->hasPicture()) {
+        backdrop_->setCaptionColours(scheme->caption, scheme->link);
+    }
+}
+
+QString FRM000::skinStem() const {
+    return pictureStem(context_.ini.value(QStringLiteral("Ambiente"), QStringLiteral("skin"),
+                                          QStringLiteral("C:\\KALDO\\Ini\\skinblue.dll")));
 }
 
 QString FRM000::pictureFile(const QString &file) const {

@@ -47,6 +47,8 @@ public:
     /// Opens the ini file anew and takes its keys into the session.
     void Ini();
     void MainSkin();
+    /// The look that the ini file names now, at once: colours, and the wallpaper of its library.
+    void changeSkin();
     void DisableButtons();
     void EnableButtons();
     /// Status bar and side bar of the user who has just logged in.
@@ -105,6 +107,8 @@ private:
     void assignShortcuts();
     void showSkinNotice(Notice notice);
     void openNoticePage();
+    QString skinStem() const;
+    void showWallpaper();
     QString pictureFile(const QString &file) const;
 
     void openScreen(const ScreenMaker &maker);

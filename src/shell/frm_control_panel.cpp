@@ -19,11 +19,12 @@ struct Scheme {
     const char *library;
 };
 
-/// In the order of the list.
-constexpr std::array<Scheme, 3> kSchemes = {{
+/// In the order of the list; the default look keeps the library for its wallpaper.
+constexpr std::array<Scheme, 4> kSchemes = {{
     {"KaldoBlue", "C:\\KALDO\\Ini\\skinblue.dll"},
     {"KaldoBlack", "C:\\KALDO\\Ini\\skinblack.dll"},
     {"KaldoGreen", "C:\\KALDO\\Ini\\skingreen.dll"},
+    {"Windows", "C:\\KALDO\\Ini\\skinblue.dll"},
 }};
 
 /// -1 for a look that is none of the list.
@@ -185,15 +186,20 @@ void FRMControlPanel::AplicarCambios() {
     }
     Options changed = options();
     sheet_.take(&changed);
-    if (const int scheme = Ambiente_->index(); scheme >= 0) {
+    if (const int scheme = Ambiente_->index();
+        scheme >= 0 && scheme != schemeIndex(changed.SkinName)) {
         changed.SkinName = QString::fromLatin1(kSchemes.at(scheme).name);
         changed.Skin = QString::fromLatin1(kSchemes.at(scheme).library);
     }
     changed.ImgEmpresa = logos_[0].path;
     changed.ImgEmpresa1 = logos_[1].path;
+    const bool otherLook = changed.SkinName != options().SkinName;
     changed.save(context().ini);
     context().options = changed;
     main_.Ini();
+    if (otherLook) {
+        main_.changeSkin();
+    }
     showOptions();
     messages().information(
         QStringLiteral("Algunos cambios pueden necesitar reiniciar el sistema."));

@@ -146,7 +146,8 @@ form::Item FRMControlPanel::lookColumn() {
              button(nullptr, QStringLiteral("ArchivoCHM"), QStringLiteral("Archivo CHM"))
                  .clicked([this] { chooseHelpFile(); })}),
         radio(&Ambiente_, QStringLiteral("Ambiente"), QStringLiteral("Ambiente del Sistema"))
-            .options({QStringLiteral("Azul"), QStringLiteral("Oscuro"), QStringLiteral("Verde")})
+            .options({QStringLiteral("Azul"), QStringLiteral("Oscuro"), QStringLiteral("Verde"),
+                      QStringLiteral("Predeterminado")})
             .fill(),
         sheet_.option(radio(&Sector_, QStringLiteral("Sector"), QStringLiteral("Sector"))
                           .options({QStringLiteral("Empresarial"), QStringLiteral("Educativo"),

@@ -11,7 +11,9 @@
 #include <QStyleOptionHeader>
 #include <QStyleOptionMenuItem>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <stdexcept>
 
 namespace kaldo {
@@ -38,6 +40,9 @@ bool between(const QDate &day, const QString &first, const QString &last) {
 }
 
 const QColor kInk(0x1e, 0x29, 0x3b);
+constexpr double kReadable = 4.5;
+
+void paintTick(const QStyleOption &option, QPainter *painter);
 
 /// Fusion with a flat tool bar and quiet flat headers on all grids, in the scheme's colour where
 /// there is one.
@@ -81,10 +86,19 @@ public:
             // Fusion's translucent lines are blended dot by dot, by threads of their own.
             QRect line = option->rect;
             line.setTop(line.bottom());
-            painter->fillRect(line, kHeaderLine);
+            painter->fillRect(line, header_.isValid() ? header_ : kHeaderLine);
             return;
         }
         QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override {
+        if (element == PE_IndicatorItemViewItemCheck) {
+            paintTick(*option, painter);
+            return;
+        }
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 
     QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
@@ -119,38 +133,83 @@ private:
     QColor header_;
 };
 
-QPalette basePalette() {
-    QPalette palette(QColor(0xf1, 0xf4, 0xf6));
-    palette.setColor(QPalette::Window, QColor(0xf4, 0xf6, 0xf8));
-    palette.setColor(QPalette::WindowText, kInk);
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xf3, 0xf7, 0xf9));
-    palette.setColor(QPalette::Text, kInk);
-    palette.setColor(QPalette::Button, QColor(0xe9, 0xee, 0xf2));
-    palette.setColor(QPalette::ButtonText, kInk);
-    palette.setColor(QPalette::Highlight, baseAccent());
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+/// The colours of a look: grounds, and what is written on them.
+struct Ground {
+    QColor button, window, base, alternate, ink, faint, disabled, placeholder, muted;
+};
+
+const Ground kLight{
+    {0xe9, 0xee, 0xf2}, {0xf4, 0xf6, 0xf8}, {0xff, 0xff, 0xff}, {0xf3, 0xf7, 0xf9}, kInk,
+    {0xcb, 0xd5, 0xe1}, {0x63, 0x6e, 0x7b}, {0x6b, 0x7a, 0x8f}, {0xdd, 0xe4, 0xea}};
+const Ground kDark{{0x3d, 0x43, 0x4b}, {0x2a, 0x2e, 0x34}, {0x1f, 0x22, 0x27},
+                   {0x26, 0x2a, 0x30}, {0xe8, 0xeb, 0xef}, {0x4a, 0x52, 0x5c},
+                   {0xa3, 0xab, 0xb5}, {0x9a, 0xa3, 0xae}, {0x4a, 0x52, 0x5c}};
+
+/// The same colour, deep enough for white letters.
+QColor underWhite(QColor colour) {
+    while (contrast(Qt::white, colour) < kReadable) {
+        colour = colour.darker(104);
+    }
+    return colour;
+}
+
+QPalette paletteOf(const Ground &ground, const QColor &highlight, const QColor &highlighted) {
+    QPalette palette(ground.button);
+    palette.setColor(QPalette::Window, ground.window);
+    palette.setColor(QPalette::WindowText, ground.ink);
+    palette.setColor(QPalette::Base, ground.base);
+    palette.setColor(QPalette::AlternateBase, ground.alternate);
+    palette.setColor(QPalette::Text, ground.ink);
+    palette.setColor(QPalette::Button, ground.button);
+    palette.setColor(QPalette::ButtonText, ground.ink);
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::HighlightedText, highlighted);
+    palette.setColor(QPalette::Link,
+                     ground.window.lightness() < 128 ? highlight : underWhite(highlight));
     palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfb, 0xe6));
     palette.setColor(QPalette::ToolTipText, kInk);
-    palette.setColor(QPalette::PlaceholderText, QColor(0x94, 0xa3, 0xb8));
+    palette.setColor(QPalette::PlaceholderText, ground.placeholder);
     // What a disabled field holds is still read.
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, QColor(0x6f, 0x7b, 0x89));
+        palette.setColor(QPalette::Disabled, role, ground.disabled);
     }
-    palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Window));
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0xcb, 0xd5, 0xe1));
-    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, kInk);
+    palette.setColor(QPalette::Disabled, QPalette::Base, ground.window);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, ground.faint);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, ground.ink);
     return palette;
 }
 
 /// Lists and grids: the marked row is strong only where the keys go.
-QPalette viewPalette(const QColor &selected, const QColor &text) {
-    QPalette palette = basePalette();
+QPalette viewPalette(QPalette palette, const Ground &ground, const QColor &selected,
+                     const QColor &text) {
     palette.setColor(QPalette::Active, QPalette::Highlight, selected);
     palette.setColor(QPalette::Active, QPalette::HighlightedText, text);
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xdd, 0xe4, 0xea));
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, kInk);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, ground.muted);
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, ground.ink);
     return palette;
+}
+
+/// A filled box with its tick, or an empty frame: told apart at a glance, and from afar.
+void paintTick(const QStyleOption &option, QPainter *painter) {
+    const QRectF box = QRectF(option.rect).adjusted(1.5, 1.5, -1.5, -1.5);
+    const bool set = option.state & (QStyle::State_On | QStyle::State_NoChange);
+    const QColor ink = QApplication::palette().color(QPalette::Active, QPalette::Text);
+    const QColor ground = QApplication::palette().color(QPalette::Active, QPalette::Base);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(ink, 1.2));
+    painter->setBrush(set ? ink : ground);
+    painter->drawRoundedRect(box, 2.5, 2.5);
+    painter->setPen(QPen(ground, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const auto at = [&box](double x, double y) {
+        return QPointF(box.left() + box.width() * x, box.top() + box.height() * y);
+    };
+    if (option.state & QStyle::State_On) {
+        painter->drawPolyline(QPolygonF({at(0.22, 0.54), at(0.42, 0.74), at(0.78, 0.28)}));
+    } else if (option.state & QStyle::State_NoChange) {
+        painter->drawLine(at(0.25, 0.5), at(0.75, 0.5));
+    }
+    painter->restore();
 }
 
 }  // namespace
@@ -169,7 +228,8 @@ const ColourScheme *schemeNamed(const QString &name) {
                             stem + QStringLiteral("_sep") + png,
                             december + png,
                             assistance + QStringLiteral("_asist1") + png,
-                            stem + QStringLiteral("_teleg") + png};
+                            stem + QStringLiteral("_teleg") + png,
+                            QLatin1String(title) == QLatin1String("KaldoBlack")};
     };
     static const std::array<ColourScheme, 3> schemes = {
         scheme("KaldoBlack", 0x585858, 0xdae2d3, 0x555555, 0xbee4f6, QStringLiteral("kaldoblk"),
@@ -225,22 +285,43 @@ QColor baseAccent() {
     return QColor(0x0f, 0x76, 0x6e);
 }
 
-void applyBaseLook() {
-    QApplication::setStyle(new KaldoStyle);
-    QApplication::setPalette(basePalette());
-    QApplication::setPalette(viewPalette(baseAccent(), Qt::white), "QAbstractItemView");
+double contrast(const QColor &text, const QColor &ground) {
+    const auto luminance = [](const QColor &colour) {
+        const auto part = [](double value) {
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
+               0.0722 * part(colour.blueF());
+    };
+    const double first = luminance(text) + 0.05;
+    const double second = luminance(ground) + 0.05;
+    return std::max(first, second) / std::min(first, second);
 }
 
-void applyScheme(const ColourScheme &scheme) {
+void applyBaseLook() {
+    QApplication::setStyle(new KaldoStyle);
+    applyScheme(nullptr);
+}
+
+void applyScheme(const ColourScheme *scheme) {
     if (auto *style = dynamic_cast<KaldoStyle *>(QApplication::style())) {
-        style->setHeader(scheme.kaldoColor);
+        style->setHeader(scheme != nullptr ? scheme->kaldoColor : QColor());
     }
-    QPalette palette = basePalette();
-    palette.setColor(QPalette::Highlight, scheme.kaldoColor);
-    palette.setColor(QPalette::Link, scheme.kaldoColor);
+    const Ground &ground = scheme != nullptr && scheme->dark ? kDark : kLight;
+    QColor focus = baseAccent();
+    QColor selected = focus;
+    QColor text = Qt::white;
+    if (scheme != nullptr) {
+        // Rows are selected in the pale colour; the focus keeps the strong one, which on a dark
+        // ground is the pale one too.
+        selected = scheme->kaldoSelect;
+        text = kInk;
+        focus = scheme->dark ? scheme->kaldoSelect : underWhite(scheme->kaldoColor);
+    }
+    const QPalette palette =
+        paletteOf(ground, focus, contrast(Qt::white, focus) < kReadable ? kInk : QColor(Qt::white));
     QApplication::setPalette(palette);
-    // Rows are selected in the pale colour; the focus keeps the strong one.
-    QApplication::setPalette(viewPalette(scheme.kaldoSelect, kInk), "QAbstractItemView");
+    QApplication::setPalette(viewPalette(palette, ground, selected, text), "QAbstractItemView");
 }
 
 }  // namespace kaldo

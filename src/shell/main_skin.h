@@ -19,6 +19,7 @@ struct ColourScheme {
     QString decemberPicture;
     QString assistanceNotice;
     QString telegramNotice;
+    bool dark = false;  ///< light texts on a dark ground, in all windows
 };
 
 /// The scheme of that name; null for any other name, "Windows" among them.
@@ -37,10 +38,14 @@ const ColourScheme *schemeOfPicture(const QString &stem);
 
 /// The look of all windows, without a scheme. Once, before the first window.
 void applyBaseLook();
-/// What a scheme changes of it.
-void applyScheme(const ColourScheme &scheme);
+/// What a scheme changes of it; null for none, which brings the base look back. Windows that stand
+/// follow at once.
+void applyScheme(const ColourScheme *scheme);
 
 /// Header colour of groups where no scheme is in force.
 QColor baseAccent();
+
+/// How well a text is read on a ground, 1 to 21; 4.5 is the least for a text of this size.
+double contrast(const QColor &text, const QColor &ground);
 
 }  // namespace kaldo

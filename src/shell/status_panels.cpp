@@ -138,13 +138,25 @@ StatusPanels::StatusPanels(QWidget *parent) : QStatusBar(parent), barColour_(bas
     QFont bold = font();
     bold.setBold(true);
     rate->setFont(bold);
-    QPalette red = rate->palette();
-    red.setColor(QPalette::WindowText, QColor(0xc0, 0x1c, 0x28));
-    rate->setPalette(red);
+    paintRate();
     bar_ = new QProgressBar(row_->panel(kBarPanel));
     bar_->setObjectName(QStringLiteral("progressBar"));
     bar_->setAccessibleName(QStringLiteral("Avance"));
     bar_->hide();
+}
+
+void StatusPanels::paintRate() {
+    const bool dark = palette().color(QPalette::Window).lightness() < 128;
+    QPalette red;
+    red.setColor(QPalette::WindowText, dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xc0, 0x1c, 0x28));
+    row_->panel(kRatePanel)->setPalette(red);
+}
+
+void StatusPanels::changeEvent(QEvent *event) {
+    QStatusBar::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && row_ != nullptr) {
+        paintRate();
+    }
 }
 
 void StatusPanels::setPanel(int panel, const QStringList &forms) {

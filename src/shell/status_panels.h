@@ -32,8 +32,12 @@ public:
     void advanceProgress();
     void endProgress();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void showTextColour(bool early);
+    void paintRate();
 
     PanelRow *row_ = nullptr;
     QProgressBar *bar_ = nullptr;

@@ -1,6 +1,7 @@
 #include "tests/shell/shell_station.h"
 
 #include "shell/frm_control_panel.h"
+#include "shell/main_skin.h"
 #include "tests/support/accessibility.h"
 
 #include <QFile>
@@ -179,6 +180,20 @@ TEST_F(ControlPanel, AppliedOptionsLiveAndAreSaved) {
         at.apply();
     });
     EXPECT_EQ(at.saved("Ambiente", "skin"), "C:\\KALDO\\Ini\\skingreen.dll");
+    const auto selected = [] {
+        return QApplication::palette("QAbstractItemView").color(QPalette::Highlight);
+    };
+    EXPECT_EQ(selected(), schemeNamed("KaldoGreen")->kaldoSelect) << "at once";
+    for (const int look : {3, 2}) {
+        at.inPanel([&] {
+            EXPECT_EQ(at.field<RadioGroup>("Ambiente")->index(), look == 3 ? 2 : 3);
+            at.choose("Ambiente", look);
+            at.messages.expectInformation(kApplied);
+            at.apply();
+        });
+        EXPECT_EQ(at.saved("Sistema", "skinname"), look == 3 ? "Windows" : "KaldoGreen");
+        EXPECT_EQ(selected() == baseAccent(), look == 3) << "and taken back at once";
+    }
     EXPECT_FALSE(at.options().ApagarSistema);
     EXPECT_EQ(at.saved("Equipo", "apagar"), "S") << "never switched off from here";
 

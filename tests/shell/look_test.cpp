@@ -73,6 +73,31 @@ TEST(Look, DefaultAndTheThreeSchemes) {
               QColor(0x49, 0x66, 0x56));
 }
 
+TEST(Look, TextsAreReadOnTheirGroundsInAllLooks) {
+    for (const char *name : {"Windows", "KaldoBlue", "KaldoBlack", "KaldoGreen"}) {
+        SCOPED_TRACE(name);
+        const ColourScheme *scheme = schemeNamed(QString::fromLatin1(name));
+        applyScheme(scheme);
+        for (const char *kind : {static_cast<const char *>(nullptr), "QAbstractItemView"}) {
+            const QPalette palette = QApplication::palette(kind);
+            for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+                const auto reads = [&](QPalette::ColorRole text, QPalette::ColorRole ground) {
+                    return contrast(palette.color(group, text), palette.color(group, ground));
+                };
+                EXPECT_GE(reads(QPalette::WindowText, QPalette::Window), 4.5);
+                EXPECT_GE(reads(QPalette::Text, QPalette::Base), 4.5);
+                EXPECT_GE(reads(QPalette::Text, QPalette::AlternateBase), 4.5);
+                EXPECT_GE(reads(QPalette::ButtonText, QPalette::Button), 4.5);
+                EXPECT_GE(reads(QPalette::HighlightedText, QPalette::Highlight), 4.5);
+                EXPECT_GE(reads(QPalette::Link, QPalette::Window), 4.5);
+                EXPECT_EQ(palette.color(group, QPalette::Window).lightness() < 128,
+                          scheme != nullptr && scheme->dark);
+            }
+        }
+    }
+    applyScheme(nullptr);
+}
+
 TEST(Look, MissingPicturesLeaveAQuietGround) {
     ShellStation station;
     station.installation.setIni("Sistema", "skinname", "KaldoBlue");
