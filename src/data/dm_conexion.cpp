@@ -2,8 +2,6 @@
 
 #include <QDir>
 
-#include <vector>
-
 namespace kaldo {
 
 namespace {
@@ -18,22 +16,6 @@ FirebirdLogin loginFrom(const IniFile &ini) {
 FirebirdLogin localLogin(FirebirdLogin login) {
     login.databaseTriggers = false;
     return login;
-}
-
-/// Waits for connections that have begun to open. Where one fails it and those behind it are
-/// closed.
-void openInOrder(const std::vector<FirebirdConnection *> &opening) {
-    auto next = opening.begin();
-    try {
-        for (; next != opening.end(); ++next) {
-            (*next)->open();
-        }
-    } catch (...) {
-        for (; next != opening.end(); ++next) {
-            (*next)->close();
-        }
-        throw;
-    }
 }
 
 }  // namespace
@@ -88,7 +70,6 @@ void DMConexion::open() {
         const auto registry = FBLocal.select(
             {QStringLiteral("Firebird1"), QStringLiteral("Select * from Firebird")}, {});
         const auto &columns = registry->columns();
-        std::vector<FirebirdConnection *> opening;
         Row row;
         while (registry->fetch(row)) {
             QString base;
@@ -105,12 +86,11 @@ void DMConexion::open() {
                 if (installation_.portable(path) == path) {
                     outside_ += base + QLatin1String(": ") + path;
                 }
+                connection->close();
                 connection->setDatabase(path);
-                connection->beginOpening();
-                opening.push_back(connection);
+                connection->open();
             }
         }
-        openInOrder(opening);
     } else if (branch_ == QLatin1String("Informix")) {
         openInformix();
     }

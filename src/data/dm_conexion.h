@@ -20,8 +20,9 @@ public:
     DMConexion(const DMConexion &) = delete;
     DMConexion &operator=(const DMConexion &) = delete;
 
-    /// Opens the local registry, and what it names, all at a time. The first failure, in the order
-    /// of the rows, ends the opening and is thrown; what stands before it stays connected.
+    /// Opens the local registry, and what it names, one after the other in the order of its rows:
+    /// the client library isn't made for two attaches at a time. The first failure ends the opening
+    /// and is thrown; what stands before it stays connected.
     void open();
 
     /// What the last open() found named in the registry outside of the installation's root, as

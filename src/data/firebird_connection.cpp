@@ -342,17 +342,6 @@ void FirebirdAttachment::giveBack(std::unique_ptr<FirebirdStatement> statement,
     }
 }
 
-namespace {
-
-std::shared_ptr<FirebirdAttachment> attached(const QString &connection, const QString &database,
-                                             const FirebirdLogin &login) {
-    auto attachment = std::make_shared<FirebirdAttachment>(connection);
-    attachment->attach(database, login);
-    return attachment;
-}
-
-}  // namespace
-
 FirebirdConnection::FirebirdConnection(QString name, FirebirdLogin login)
     : Connection(std::move(name)), login_(std::move(login)) {}
 
@@ -368,25 +357,13 @@ void FirebirdConnection::open() {
     if (isOpen()) {
         return;
     }
-    if (opening_.valid()) {
-        attachment_ = opening_.get();
-        return;
-    }
     chooseLockFolder(database());
-    attachment_ = attached(name(), database(), login_);
-}
-
-void FirebirdConnection::beginOpening() {
-    close();
-    chooseLockFolder(database());
-    opening_ = std::async(std::launch::async, attached, name(), database(), login_);
+    auto attachment = std::make_shared<FirebirdAttachment>(name());
+    attachment->attach(database(), login_);
+    attachment_ = std::move(attachment);
 }
 
 void FirebirdConnection::close() {
-    if (opening_.valid()) {
-        opening_.wait();
-        opening_ = {};
-    }
     if (attachment_) {
         attachment_->detach();
         attachment_.reset();

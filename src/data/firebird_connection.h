@@ -1,6 +1,5 @@
 #pragma once
 
-#include <future>
 #include <memory>
 
 #include "data/connection.h"
@@ -36,10 +35,6 @@ public:
     Dialect dialect() const override { return Dialect::Firebird; }
     bool isOpen() const override;
     void open() override;
-    /// Attaches in the background. open() waits for it and tells its failure, close() waits and
-    /// forgets it. Several connections begin together: an attach is half a dozen milliseconds in
-    /// the process and more on a server.
-    void beginOpening();
     void close() override;
     std::unique_ptr<ResultSet> select(const Statement &statement,
                                       const Parameters &values) override;
@@ -51,7 +46,6 @@ private:
 
     FirebirdLogin login_;
     std::shared_ptr<FirebirdAttachment> attachment_;
-    std::future<std::shared_ptr<FirebirdAttachment>> opening_;
 };
 
 }  // namespace kaldo
