@@ -1,9 +1,23 @@
 #include "data/database_error.h"
 
+#include <QHash>
+
 namespace kaldo {
 
 DatabaseError::DatabaseError(const QString &message, Details details)
     : std::runtime_error(message.toStdString()), message_(message), details_(std::move(details)) {}
+
+QString databaseInWords(const QString &connection) {
+    static const QHash<QString, QString> names = {
+        {QStringLiteral("FBLocal"), QStringLiteral("de la estación")},
+        {QStringLiteral("FBOdonto"), QStringLiteral("de la clínica")},
+        {QStringLiteral("FBFinanzas"), QStringLiteral("de finanzas")},
+        {QStringLiteral("FBEscolares"), QStringLiteral("de alumnos")},
+        {QStringLiteral("FBPosgrado"), QStringLiteral("de posgrado")},
+        {QStringLiteral("FBCtrclinicas"), QStringLiteral("del sistema anterior")},
+    };
+    return QStringLiteral("la base de datos ") + names.value(connection, connection);
+}
 
 DatabaseError rowGone(const QString &connection, const QString &statement) {
     return {QStringLiteral("Otra estación borró el registro, la información no se guardó."),

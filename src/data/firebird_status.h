@@ -17,8 +17,13 @@ public:
     bool failed() const { return vector_[0] == 1 && vector_[1] != 0; }
     /// Throws where the call before it failed.
     void check() const;
+    /// The same for an attach: a connection that broke in it was none yet.
+    void checkAttach() const;
 
 private:
+    enum class During { Attach, Statement };
+    void check(During during) const;
+
     ISC_STATUS_ARRAY vector_ = {};
     QString connection_;
     QString statement_;

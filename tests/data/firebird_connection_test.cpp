@@ -98,16 +98,46 @@ TEST_F(FirebirdConnectionTest, AValueThatDoesNotFitIsRefusedAndNothingIsWritten)
     EXPECT_EQ(valueOf(connection, "select count(*) from cosas").toInt(), 0);
 }
 
-TEST_F(FirebirdConnectionTest, FailuresAreToldApart) {
+TEST_F(FirebirdConnectionTest, FailuresAreToldApartAndInSpanish) {
     run(connection, "insert into cosas (id) values (1)");
-    const DatabaseError twice = failureOf("insert into cosas (id) values (1)", {});
-    EXPECT_EQ(twice.failure(), DatabaseFailure::DuplicateKey);
-    EXPECT_EQ(twice.details().connection, "FBLocal");
-    EXPECT_FALSE(twice.details().engineMessage.isEmpty());
-    EXPECT_EQ(failureOf("select nada from cosas", {}).details().sqlCode, -206);
+    run(connection,
+        "create table partes (id integer not null references cosas (id), "
+        "cuantas smallint check (cuantas < 100))");
+    run(connection, "insert into partes (id) values (1)");
     run(connection, "create exception negado 'No se puede.'");
+    struct Case {
+        QString text;
+        DatabaseFailure failure;
+        QString sentence;
+    };
+    using enum DatabaseFailure;
+    const QList<Case> cases = {
+        {"insert into cosas (id) values (1)", DuplicateKey, "El registro ya existe."},
+        {"insert into partes (id) values (9)", BadValue,
+         "El registro se refiere a otro que no existe."},
+        {"delete from cosas", InUse,
+         "Otros registros dependen de éste, no se puede borrar ni cambiar su clave."},
+        {"insert into cosas (id) values (null)", BadValue,
+         "Falta un dato obligatorio, o no corresponde a su campo."},
+        {"insert into cosas (id, texto) values (2, 'seis66')", BadValue,
+         "Un texto es demasiado largo para su campo."},
+        {"insert into cosas (id, chico) values (2, 40000)", BadValue,
+         "Un número es demasiado grande para su campo."},
+        {"insert into partes (id, cuantas) values (1, 100)", BadValue,
+         "Los datos no cumplen una regla de la base de datos de la estación."},
+        {"select nada from cosas", Other,
+         "La base de datos de la estación no corresponde a esta versión del programa."},
+        {"no es una orden", Other, "La base de datos de la estación rechazó la operación."},
+    };
+    for (const Case &each : cases) {
+        const DatabaseError failure = failureOf(each.text, {});
+        EXPECT_EQ(failure.failure(), each.failure) << each.text.toStdString();
+        EXPECT_EQ(failure.message(), each.sentence + '\n' + failure.details().engineMessage);
+        EXPECT_FALSE(failure.details().engineMessage.isEmpty());
+        EXPECT_EQ(failure.details().connection, "FBLocal");
+    }
     const DatabaseError raised = failureOf("execute block as begin exception negado; end", {});
-    EXPECT_EQ(raised.failure(), DatabaseFailure::Raised);
+    EXPECT_EQ(raised.failure(), Raised);
     EXPECT_EQ(raised.message(), "No se puede.") << "without the engine's number, name and place";
 }
 
@@ -118,7 +148,7 @@ TEST_F(FirebirdConnectionTest, AnAttachThatFailsTellsWhich) {
         try {
             other.open();
         } catch (const DatabaseError &failure) {
-            EXPECT_TRUE(failure.message().contains("FBOdonto"));
+            EXPECT_TRUE(failure.message().contains("la base de datos de la clínica"));
             EXPECT_FALSE(other.isOpen());
             return failure.failure();
         }
@@ -170,7 +200,7 @@ TEST_F(FirebirdConnectionTest, AFileThatAnotherProcessHoldsIsToldAsInUse) {
     } catch (const DatabaseError &failure) {
         EXPECT_EQ(failure.failure(), DatabaseFailure::FileInUse) << failure.what();
         EXPECT_TRUE(failure.message().startsWith(
-            "La base de datos FBFinanzas está en uso por otro programa."));
+            "La base de datos de finanzas está en uso por otro programa."));
     }
     other.write("quit;\n");
     ASSERT_TRUE(other.waitForFinished(10000));
