@@ -6,8 +6,7 @@
 #include <stdexcept>
 
 #include "bench/measurements.h"
-#include "bench/note_typist.h"
-#include "bench/private_server.h"
+#include "tests/support/private_server.h"
 
 namespace kaldo::bench {
 
@@ -38,7 +37,7 @@ int memoryChild() {
     auto installation = std::make_shared<test::TestInstallation>();
     writeUnforced(*installation);
     // What the engine keeps of the databases is the server's; here it counts what a station keeps.
-    const PrivateServer server(installation->root());
+    const test::PrivateServer server(installation->root());
     reachThrough(*installation, server.host());
     BenchStation station(installation, installation);
     station.logIn(QStringLiteral("cajero1"));

@@ -1,7 +1,7 @@
 #include "bench/measurements.h"
 #include "bench/note_typist.h"
-#include "bench/private_server.h"
 #include "bench/replay.h"
+#include "tests/support/private_server.h"
 
 namespace kaldo::bench {
 
@@ -83,7 +83,7 @@ Results registrationWithoutForcedWrites() {
 
 Results registrationOnServer() {
     const Installations installations;
-    const PrivateServer server(installations.own->root());
+    const test::PrivateServer server(installations.own->root());
     reachThrough(*installations.own, server.host());
     reachThrough(*installations.bare, server.host());
     return measure(installations, QStringLiteral("server"), 1.15);

@@ -192,6 +192,7 @@ void FRM405::generar() {
             QString::fromUtf8(kInformation));
         return;
     }
+    const CallLimit asLongAsItTakes(context().conexion.calls(), std::nullopt);
     DMIngresosCaja &caja = context().caja;
     caja.Qry405_2.open({{QStringLiteral("fecha"), fechaCorte_},
                         {QStringLiteral("caja"), CajaCorte_},

@@ -36,7 +36,13 @@ public:
     /// The same seam for every connection; null to take it away.
     void setSeam(Seam *seam);
 
+    /// Who is told while a server makes the program wait; null to take it away.
+    void setWaitObserver(WaitObserver *observer) { calls_->setObserver(observer); }
+    /// For work whose calls may take longer than others: see CallLimit.
+    CallRunner &calls() { return *calls_; }
+
 private:
+    std::shared_ptr<CallRunner> calls_ = std::make_shared<CallRunner>();
     FirebirdLogin login_;
     const Installation &installation_;
     QString branch_;

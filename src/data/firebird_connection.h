@@ -2,12 +2,13 @@
 
 #include <memory>
 
+#include "data/attach_refusal.h"
+#include "data/call_runner.h"
 #include "data/connection.h"
 
 namespace kaldo {
 
 class FirebirdAttachment;
-class FirebirdStatement;
 
 /// How a Firebird database is attached. The time-out is the longest that a person is made to wait
 /// for a server that doesn't answer.
@@ -27,9 +28,16 @@ struct FirebirdLogin {
 /// Prepared statements are kept per text while the connection is open. Reads share one read-only,
 /// read-committed transaction, which the engine counts as committed from its start: it sees the
 /// newest committed rows and holds back no garbage collection.
+///
+/// What a server must answer runs on the runner's thread, for at most its limit. Where the
+/// connection is lost, or the answer isn't waited for, the call fails (ConnectionLost) and is never
+/// repeated, since nobody knows what it did; the next statement attaches anew. An attach that
+/// failed isn't tried again within a second.
 class FirebirdConnection final : public Connection {
 public:
-    FirebirdConnection(QString name, FirebirdLogin login);
+    /// `runner`: shared by the connections of a program; none: one of its own.
+    FirebirdConnection(QString name, FirebirdLogin login,
+                       std::shared_ptr<CallRunner> runner = nullptr);
     ~FirebirdConnection() override;
 
     Dialect dialect() const override { return Dialect::Firebird; }
@@ -42,10 +50,10 @@ public:
     std::vector<Column> describe(const Statement &statement) override;
 
 private:
-    qint64 changedRows(FirebirdStatement &prepared, const QString &statement);
-
     FirebirdLogin login_;
+    std::shared_ptr<CallRunner> runner_;
     std::shared_ptr<FirebirdAttachment> attachment_;
+    AttachRefusal refusal_;
 };
 
 }  // namespace kaldo

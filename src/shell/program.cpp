@@ -1,7 +1,9 @@
 #include "shell/program.h"
 
+#include "app/waiting_box.h"
 #include "cashdesk/frm405_cash_cut.h"
 #include "cashdesk/frm801_incomplete_receipts.h"
+#include "data/database_error.h"
 #include "data/module_lookups.h"
 #include "payments/frm401_3_payment_form.h"
 #include "payments/frm401_payment_note.h"
@@ -62,11 +64,13 @@ struct Program::Parts {
           update(context, settings.update),
           countDown(settings.countDown) {
         conexion.setSeam(settings.seam);
+        conexion.setWaitObserver(&waiting);
         linkModules(odonto, caja, finanzas);
     }
     ~Parts() {
         // A screen refers to resident dialogs, which go before the window.
         window->dropChildren();
+        conexion.setWaitObserver(nullptr);
     }
 
     Installation installation;
@@ -81,6 +85,7 @@ struct Program::Parts {
     IniFile columns;  ///< as wide as the users of this station have dragged them
     Session session;
     Options options;
+    WaitingBox waiting;
     DMConexion conexion;
     DMLocal local;
     DMOdonto odonto;
@@ -111,9 +116,14 @@ Program::Program(const ProgramSettings &settings) {
     applyBaseLook();
     parts_ = std::make_unique<Parts>(settings);
     if (Application *application = Application::current()) {
-        Messages *messages = &parts_->messages;
-        application->setFailureHandler([messages](const std::exception &failure) {
-            messages->error(QString::fromUtf8(failure.what()));
+        application->setFailureHandler([this](const std::exception &failure) {
+            const QString text = QString::fromUtf8(failure.what());
+            const auto *ofDatabase = dynamic_cast<const DatabaseError *>(&failure);
+            if (ofDatabase != nullptr && ofDatabase->details().repeated) {
+                parts_->window->showNotice(text.section(u'\n', 0, 0));
+            } else {
+                parts_->messages.error(text);
+            }
         });
         IniFile *columns = &parts_->columns;
         const QString widths = QStringLiteral("Columnas");

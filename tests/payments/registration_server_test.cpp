@@ -1,13 +1,10 @@
+#include "data/database_error.h"
 #include "tests/payments/desk.h"
+#include "tests/support/private_server.h"
 
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
-#include <QFile>
-#include <QProcess>
-
-#include <unistd.h>
-#include <csignal>
 #include <memory>
 
 namespace kaldo {
@@ -15,46 +12,8 @@ namespace {
 
 using test::Desk;
 using test::paidWith;
+using test::PrivateServer;
 using test::Records;
-
-/// A private database server over an installation, which names its databases through it.
-class Server {
-public:
-    explicit Server(const QString &root) : root_(root) {
-        for (int attempt = 0; attempt < 5 && !started_; ++attempt) {
-            port_ = 20000 + (::getpid() * 7 + attempt * 131) % 10000;
-            started_ = start();
-        }
-    }
-    ~Server() { script({"stop", root_, "--registry"}); }
-
-    bool started() const { return started_; }
-    bool start() {
-        return script({"start", root_, "--port", QString::number(port_), "--registry"});
-    }
-    QString address() const { return QStringLiteral("127.0.0.1/%1:").arg(port_); }
-    /// The server dies without a word to anyone.
-    void die() const {
-        QFile file(root_ + "/server/pid");
-        if (file.open(QIODevice::ReadOnly)) {
-            ::kill(file.readAll().trimmed().toInt(), SIGKILL);
-        }
-    }
-
-private:
-    static bool script(const QStringList &arguments) {
-        QProcess process;
-        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process.setStandardOutputFile(QProcess::nullDevice());
-        process.start(QStringLiteral(KALDO_SOURCE_DIR "/scripts/server"), arguments);
-        return process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit &&
-               process.exitCode() == 0;
-    }
-
-    QString root_;
-    int port_ = 0;
-    bool started_ = false;
-};
 
 /// Runs something just before the execution of a name.
 class Before : public Seam {
@@ -72,20 +31,31 @@ private:
     std::function<void()> act_;
 };
 
+/// Does this when a call makes the cashier wait; true gives the call up.
+class Patient : public WaitObserver {
+public:
+    explicit Patient(std::function<bool()> act) : act_(std::move(act)) {}
+    void waitingBegan(const QString &) override {}
+    bool stillWaiting(std::chrono::milliseconds) override { return act_(); }
+    void waitingEnded() override {}
+
+private:
+    std::function<bool()> act_;
+};
+
 NoteDraft admissionNote(Desk &desk) {
     return desk.note("AD - ADMISION", 1, {1});
 }
 
-TEST(RegistrationOnServer, TwoDesksRegisterAndADeadServerIsToldAtOnce) {
+TEST(RegistrationOnServer, TwoDesksRegisterAndSurviveWhatHappensToTheServer) {
     test::TestInstallation files;
-    Server server(files.root());
-    ASSERT_TRUE(server.started());
-    auto records = std::make_unique<Records>(files.root(), server.address());
+    PrivateServer server(files.root(), PrivateServer::Registry::Named);
+    auto records = std::make_unique<Records>(files.root(), server.host());
     const int folio = records->folio();
     auto desk = std::make_unique<Desk>(files.root());
     {
         Desk other(files.root(), 12);
-        ASSERT_TRUE(desk->conexion.FBOdonto.database().startsWith(server.address()));
+        ASSERT_TRUE(desk->conexion.FBOdonto.database().startsWith(server.host()));
         for (Desk *each : {desk.get(), &other, desk.get()}) {
             const NoteDraft draft = admissionNote(*each);
             EXPECT_TRUE(each->registers(draft, paidWith(draft, 0, 1, draft.importeTotal)));
@@ -96,29 +66,63 @@ TEST(RegistrationOnServer, TwoDesksRegisterAndADeadServerIsToldAtOnce) {
               QStringLiteral("%1|1|1; %2|12|1; %3|1|2").arg(folio).arg(folio + 1).arg(folio + 2));
     const QString whole = records->ofNote(1, 2, folio + 2);
 
-    Before dying("sp_registrametodopago", [&] { server.die(); });
-    const NoteDraft draft = admissionNote(*desk);
+    // The server dies; the same desk goes on with the one that comes after it.
+    Before dying("sp_registrametodopago", [&] { server.kill(); });
+    NoteDraft draft = admissionNote(*desk);
     desk->conexion.setSeam(&dying);
     QElapsedTimer clock;
     clock.start();
     EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 0, draft.importeTotal)));
     EXPECT_LT(clock.elapsed(), 2000);
     desk->conexion.setSeam(nullptr);
-    desk.reset();
-    records.reset();
-
     ASSERT_TRUE(server.start());
-    records = std::make_unique<Records>(files.root(), server.address());
-    desk = std::make_unique<Desk>(files.root());
-    EXPECT_EQ(records->ofNote(1, 3, folio + 3),
-              "registrovtas 1, pagos_odontologia 1, formapago 1, vtascontado 1, detallepago 1, "
-              "metodopagonota 0, detallevtas 0, historicoodontologia 0, admision 1, "
-              "datosgenerales 1, antecedentes 1, iva 0, finanzas 0, siguiente +0");
+    EXPECT_THROW(records->folio(), DatabaseError);
+    const QString half =
+        "registrovtas 1, pagos_odontologia 1, formapago 1, vtascontado 1, detallepago 1, "
+        "metodopagonota 0, detallevtas 0, historicoodontologia 0, admision 1, "
+        "datosgenerales 1, antecedentes 1, iva 0, finanzas 0, siguiente +0";
+    EXPECT_EQ(records->ofNote(1, 3, folio + 3), half);
     records->repair(1, 3);
-    const NoteDraft again = admissionNote(*desk);
-    EXPECT_EQ(again.notaActual, 3);
-    EXPECT_TRUE(desk->registers(again, paidWith(again, 0, 1, again.importeTotal)));
-    EXPECT_EQ(records->ofNote(1, 3, folio + 4), whole);
+
+    // Another station ends the attachment in the middle.
+    Before ending("sp_registrametodopago", [&] {
+        test::run(records->clinic,
+                  "delete from mon$attachments where mon$attachment_id <> current_connection and "
+                  "mon$system_flag = 0");
+    });
+    draft = admissionNote(*desk);
+    EXPECT_EQ(draft.notaActual, 3);
+    desk->conexion.setSeam(&ending);
+    EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+    desk->conexion.setSeam(nullptr);
+    EXPECT_EQ(records->ofNote(1, 3, folio + 4), half);
+    records->repair(1, 3);
+
+    // It stops answering in the middle, and goes on while the cashier waits.
+    Before freezing("sp_registrametodopago", [&] { server.freeze(); });
+    Patient patient([&] {
+        server.thaw();
+        return false;
+    });
+    draft = admissionNote(*desk);
+    desk->conexion.setSeam(&freezing);
+    desk->conexion.setWaitObserver(&patient);
+    EXPECT_TRUE(desk->registers(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+    EXPECT_EQ(records->ofNote(1, 3, folio + 5), whole);
+
+    // The cashier gives it up: a failure that is told, and nothing twice.
+    Patient hasty([] { return true; });
+    draft = admissionNote(*desk);
+    desk->conexion.setWaitObserver(&hasty);
+    EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+    server.thaw();
+    desk->conexion.setSeam(nullptr);
+    EXPECT_EQ(records->count("registrovtas", "num_caja = 1 and nota_vta = 4"), 1);
+    EXPECT_LE(records->count("metodopagonota", "num_caja = 1 and nota_vta = 4"), 1);
+    records->repair(1, 4);
+    draft = admissionNote(*desk);
+    EXPECT_TRUE(desk->registers(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+    EXPECT_EQ(records->count("registrovtas", "num_caja = 1"), 4);
 }
 
 }  // namespace

@@ -114,8 +114,17 @@ void FocusKeeper::schedule() {
         scheduled_ = true;
         QTimer::singleShot(0, this, [this] {
             scheduled_ = false;
-            settle();
+            if (holds_ == 0) {
+                settle();
+            }
         });
+    }
+}
+
+FocusKeeper::Hold::~Hold() {
+    FocusKeeper &keeper = FocusKeeper::get();
+    if (--keeper.holds_ == 0 && (!keeper.tasks_.empty() || !keeper.requests_.isEmpty())) {
+        keeper.schedule();
     }
 }
 

@@ -42,6 +42,16 @@ public:
         Scope *outer_;
     };
 
+    /// The time in which what waits goes on waiting: a handler stands still in the middle of its
+    /// work, and nothing may overtake it.
+    class Hold {
+    public:
+        Hold() { ++FocusKeeper::get().holds_; }
+        ~Hold();
+        Hold(const Hold &) = delete;
+        Hold &operator=(const Hold &) = delete;
+    };
+
     void request(QWidget *widget);
     void stay();
     /// The handler that runs now has asked where the focus goes.
@@ -68,6 +78,7 @@ private:
     QHash<QObject *, QPointer<QWidget>> requests_;
     std::vector<std::function<void()>> tasks_;
     QPointer<QObject> owed_;
+    int holds_ = 0;
     bool scheduled_ = false;
     bool sentBack_ = false;
 };
