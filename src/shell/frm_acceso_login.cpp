@@ -1,5 +1,6 @@
 #include "shell/frm_acceso_login.h"
 
+#include "data/schema_version.h"
 #include "shell/frm000_main_window.h"
 #include "shell/frm_inicio_firebird_wizard.h"
 #include "shell/frm_pass_password.h"
@@ -192,6 +193,11 @@ void FRMAcceso::BitBtn1Click() {
 }
 
 bool FRMAcceso::logIn(const QString &code, const QString &password) {
+    const QString complaint = schemaComplaint(context().conexion);
+    if (!complaint.isEmpty()) {
+        main_.whenRunning([this, complaint] { messages().error(complaint); });
+        return false;
+    }
     NamedQuery &user = context().odonto.ControlUsuarios1;
     user.open({{QStringLiteral("usr"), code}, {QStringLiteral("pas"), password}});
     if (user.isEmpty()) {

@@ -190,6 +190,32 @@ TEST(Login, CountStartsAgainWhenTheScreenIsReopened) {
     EXPECT_TRUE(station.window().isEnabled()) << "closed without a login: the session stays";
 }
 
+TEST(Login, SaysThatADatabaseIsOlderOrNewer) {
+    const struct {
+        const char *change;
+        const char *complaint;
+    } cases[] = {
+        {"drop table esquema",
+         "La base de datos BD_FINANZAS es de una versión anterior del sistema (versión 0; el "
+         "programa necesita la 1). Cierre el programa en todas las estaciones y actualícela con "
+         "scripts/upgrade-databases."},
+        {"insert into esquema (version) values (99)",
+         "La base de datos BD_FINANZAS es de una versión más reciente del sistema (versión 99; el "
+         "programa necesita la 1). Actualice el programa de esta estación."},
+    };
+    for (const auto &each : cases) {
+        ShellStation station;
+        FirebirdConnection finance(QStringLiteral("FBFinanzas"), {});
+        finance.setDatabase(station.installation.database("BD_FINANZAS.GDB"));
+        run(finance, each.change);
+        finance.close();
+        station.messages.expectError(QString::fromUtf8(each.complaint));
+        station.logIn("cajero1", "caja1");
+        EXPECT_TRUE(station.stillOpen);
+        EXPECT_EQ(station.session().Usuario.text(), "");
+    }
+}
+
 TEST(Login, CashierWhoIsMissingInFinance) {
     ShellStation station;
     FirebirdConnection finance(QStringLiteral("FBFinanzas"), {});

@@ -7,14 +7,14 @@
 
 set term ^ ;
 
-create function ahora returns timestamp
+create or alter function ahora returns timestamp
 as
 begin
     return coalesce(cast(rdb$get_context('USER_SESSION', 'AHORA') as timestamp),
                     current_timestamp);
 end^
 
-create function hoy returns date
+create or alter function hoy returns date
 as
 begin
     return cast(ahora() as date);

@@ -1,26 +1,22 @@
 -- Running numbers, given by the database when the station leaves them NULL or 0.
 
-create sequence sq_tipocambio;
-create sequence sq_prestamo_exp;
-create sequence sq_estadocuenta;
-
 set term ^ ;
 
-create trigger tipocambio_bi for tipocambio before insert
+create or alter trigger tipocambio_bi for tipocambio before insert
 as
 begin
     if (coalesce(new.consec, 0) = 0) then
         new.consec = next value for sq_tipocambio;
 end^
 
-create trigger prestamo_exp_bi for prestamo_exp before insert
+create or alter trigger prestamo_exp_bi for prestamo_exp before insert
 as
 begin
     if (coalesce(new.consec, 0) = 0) then
         new.consec = next value for sq_prestamo_exp;
 end^
 
-create trigger estadocuenta_bi for estadocuenta before insert
+create or alter trigger estadocuenta_bi for estadocuenta before insert
 as
 begin
     if (coalesce(new.consec, 0) = 0) then
@@ -28,7 +24,7 @@ begin
 end^
 
 -- Holders are found by beneficiario = '', which NULL would not answer.
-create trigger prestaciones_biu for prestaciones before insert or update
+create or alter trigger prestaciones_biu for prestaciones before insert or update
 as
 begin
     new.beneficiario = coalesce(new.beneficiario, '');

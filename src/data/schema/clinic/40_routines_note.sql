@@ -1,13 +1,13 @@
 -- What a payment note writes. The station calls these in a settled order, each one committed by
 -- itself; none of them moves the note counter of the desk, which the station does last.
 
-create exception ex_concepto 'El concepto no existe en la lista de precios.';
+create or alter exception ex_concepto 'El concepto no existe en la lista de precios.';
 
 set term ^ ;
 
 -- Head of a note with its payment. A note that exists already fails on its key: two patients must
 -- not end up in one note.
-create procedure kdregistra_pago_odo_p (
+create or alter procedure kdregistra_pago_odo_p (
     p_numcaja integer,
     p_notavta integer,
     p_mpio varchar(1),
@@ -104,7 +104,7 @@ end^
 
 -- One line of a note. Area, key and tax data come from the price list; an unknown code raises.
 -- p_nombre, p_orig and p_areactr are accepted and have no column.
-create procedure kdregistra_spinsdetalle_p (
+create or alter procedure kdregistra_spinsdetalle_p (
     p_caja integer,
     p_notavta integer,
     p_codigo integer,
@@ -139,7 +139,7 @@ begin
 end^
 
 -- A treatment charged to a dossier.
-create procedure kdregistra_historico_odo_p (
+create or alter procedure kdregistra_historico_odo_p (
     p_expediente varchar(10),
     p_codigo integer,
     p_tipo_prod integer,
@@ -164,7 +164,7 @@ begin
 end^
 
 -- The fiscal payment method of a note; a second call replaces the first.
-create procedure kdregistra_metodopago_p (
+create or alter procedure kdregistra_metodopago_p (
     caja integer,
     nota integer,
     cve varchar(2),
@@ -190,7 +190,7 @@ end^
 
 -- Tax of a note's lines. Prices hold the tax, so it is taken out of what the line charges after its
 -- benefit; no total changes.
-create procedure kdregistraiva (caja integer, nota integer)
+create or alter procedure kdregistraiva (caja integer, nota integer)
 as
 begin
     update detallevtas d

@@ -6,7 +6,7 @@ set term ^ ;
 -- its key; another one is never picked, since the station writes the same folio into the patient's
 -- data and history next. The counter moves on, never back.
 -- An urgency (p_tipoadmision 'U') gets its row of admurgente as well.
-create procedure kdregistra_admision_p (
+create or alter procedure kdregistra_admision_p (
     p_folio integer,
     p_numcaja integer,
     p_notavta integer,
@@ -48,7 +48,7 @@ end^
 
 -- The patient of a folio. Names are searched with like, so they are trimmed and never NULL; all
 -- else stands as given, because the admission screen tells empty from NULL.
-create procedure kdregistra_datosgenerales_p (
+create or alter procedure kdregistra_datosgenerales_p (
     folio integer,
     paterno varchar(40),
     materno varchar(40),
@@ -95,7 +95,7 @@ begin
 end^
 
 -- The clinical history of a folio, as given: parameters in the order of the table.
-create procedure kdregistra_antecedentes_p (
+create or alter procedure kdregistra_antecedentes_p (
     folio type of column antecedentes.folio,
     heredo_fam type of column antecedentes.heredo_fam,
     nopatologicos type of column antecedentes.nopatologicos,

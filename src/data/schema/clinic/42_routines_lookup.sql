@@ -4,7 +4,7 @@ set term ^ ;
 
 -- The sales areas of a centre for a service type. Areas out of use are listed too: old notes are
 -- shown through this list.
-create procedure kdserviciosxctros (p_centro varchar(4), p_dirigido varchar(2))
+create or alter procedure kdserviciosxctros (p_centro varchar(4), p_dirigido varchar(2))
 returns (
     tipo_prod integer,
     descr varchar(80),
@@ -31,7 +31,7 @@ end^
 -- ban: '1' the campus by patient type, '2' the centre by patient type, '3' the centre, '4' the
 -- campus. An empty or NULL tipo takes every patient type. folio + 0 keeps the dossier's index in
 -- front, so that the first page comes without reading the rest.
-create procedure kdcargarexp (
+create or alter procedure kdcargarexp (
     cent varchar(4),
     cd varchar(3),
     fecha date,
@@ -81,7 +81,7 @@ begin
 end^
 
 -- An employee; no row when unknown. Stations test mensaje for the exact text of a current one.
-create procedure kdconsulta_empleado_p (p_numempl integer)
+create or alter procedure kdconsulta_empleado_p (p_numempl integer)
 returns (
     nombre varchar(100),
     cve_unida varchar(10),
@@ -102,7 +102,7 @@ end^
 
 -- May this treatment be charged to this dossier? Always one row: valor 0 with the reason when it
 -- stands on a live note whose account still has a balance, else 1.
-create procedure kdverifica_pagodetratamiento_p (p_expediente varchar(10), p_codigo integer)
+create or alter procedure kdverifica_pagodetratamiento_p (p_expediente varchar(10), p_codigo integer)
 returns (valor integer, mensaje varchar(100))
 as
 begin

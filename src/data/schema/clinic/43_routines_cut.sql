@@ -4,7 +4,7 @@ set term ^ ;
 
 -- Figures of a desk and day: one row, zeros where there is nothing. Cancelled notes count in total
 -- and cancelados only. dolares in dollars; voucher counts the notes with a card payment.
-create procedure kdest_caja (p_caja integer, p_fecha date)
+create or alter procedure kdest_caja (p_caja integer, p_fecha date)
 returns (
     total integer,
     cancelados integer,
@@ -34,7 +34,7 @@ end^
 -- live notes give one row per account, source, fund and way of payment: pesos, cheques and cards to
 -- the peso account of the note, dollars (as dollars) to its dollar account. Source and fund are
 -- those of the note's lines.
-create procedure kdcompletacortebancario (usr varchar(8), caja integer, fecha date)
+create or alter procedure kdcompletacortebancario (usr varchar(8), caja integer, fecha date)
 as
 begin
     delete from cortebancario cb

@@ -5,7 +5,7 @@
 set term ^ ;
 
 -- The lines of a note and their place in the dossier's history.
-create procedure kdborrardetallevtas (num_caja integer, nota_vta integer)
+create or alter procedure kdborrardetallevtas (num_caja integer, nota_vta integer)
 as
 begin
     if (nota_vta > 0) then
@@ -22,7 +22,7 @@ end^
 
 -- The admission that a note made in a campus, with all that hangs on its folio, unless a dossier
 -- was opened on it. The folio is not given back.
-create procedure kdborraradmision (num_caja integer, nota_vta integer, ciudad varchar(3))
+create or alter procedure kdborraradmision (num_caja integer, nota_vta integer, ciudad varchar(3))
 as
     declare folio integer;
 begin
@@ -46,7 +46,7 @@ begin
 end^
 
 -- The dossier that a note opened in a campus, with its loans. The number is not given back.
-create procedure kdborrarexpediente (num_caja integer, nota_vta integer, ciudad varchar(3))
+create or alter procedure kdborrarexpediente (num_caja integer, nota_vta integer, ciudad varchar(3))
 as
     declare expediente varchar(10);
 begin
@@ -71,7 +71,7 @@ end^
 
 -- The rest of a note: what it paid on accounts goes back to their balance, the account that it
 -- opened disappears. Its head goes last, since the repair looks for it to know that work remains.
-create procedure sp550 (num_caja integer, nota_vta integer)
+create or alter procedure sp550 (num_caja integer, nota_vta integer)
 as
     declare recibo varchar(20);
     declare campus varchar(3);

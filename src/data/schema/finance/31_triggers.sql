@@ -1,9 +1,7 @@
-create sequence sq_cg_usuario;
-
 set term ^ ;
 
 -- The set-up of a clinic adds its cashiers without a number.
-create trigger cg_usuario_bi for cg_usuario before insert
+create or alter trigger cg_usuario_bi for cg_usuario before insert
 as
 begin
     if (coalesce(new.usuarioid, 0) = 0) then

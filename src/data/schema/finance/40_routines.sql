@@ -1,7 +1,7 @@
 set term ^ ;
 
 -- Takes a note over from the clinic. A note that is handed over again keeps one row.
-create procedure inserta_vw_recibopago (v_caja integer, v_nota integer)
+create or alter procedure inserta_vw_recibopago (v_caja integer, v_nota integer)
 as
 begin
     update or insert into recibopago (num_caja, nota_vta, momento)
@@ -10,7 +10,7 @@ begin
 end^
 
 -- Gives a note back: afterwards finance knows nothing of it.
-create procedure borrarpago (num_caja integer, nota_vta integer)
+create or alter procedure borrarpago (num_caja integer, nota_vta integer)
 as
 begin
     delete from recibopago r

@@ -1,7 +1,7 @@
 set term ^ ;
 
 -- A student by enrolment number: a row per programme, current ones first; none when unknown.
-create procedure matricula_padron_p (p_matricula integer)
+create or alter procedure matricula_padron_p (p_matricula integer)
 returns (
     matricula integer,
     nombre_nom varchar(70),
