@@ -197,7 +197,8 @@ void paintTick(const QStyleOption &option, QPainter *painter) {
     const QColor ground = QApplication::palette().color(QPalette::Active, QPalette::Base);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(ink, 1.2));
+    // Apart from the row that is marked, too, whichever of the two its ground is like.
+    painter->setPen(QPen(set ? ground : ink, 1.2));
     painter->setBrush(set ? ink : ground);
     painter->drawRoundedRect(box, 2.5, 2.5);
     painter->setPen(QPen(ground, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
