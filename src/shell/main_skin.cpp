@@ -42,7 +42,10 @@ bool between(const QDate &day, const QString &first, const QString &last) {
 const QColor kInk(0x1e, 0x29, 0x3b);
 constexpr double kReadable = 4.5;
 
+const QColor kDarkLine(0x6c, 0x76, 0x82);
+
 void paintTick(const QStyleOption &option, QPainter *painter);
+void paintRadio(const QStyleOption &option, QPainter *painter);
 
 /// Fusion with a flat tool bar and quiet flat headers on all grids, in the scheme's colour where
 /// there is one.
@@ -94,11 +97,22 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override {
-        if (element == PE_IndicatorItemViewItemCheck) {
+        const bool dark = option->palette.color(QPalette::Window).lightness() < 128;
+        if (element == PE_IndicatorItemViewItemCheck || (dark && element == PE_IndicatorCheckBox)) {
             paintTick(*option, painter);
             return;
         }
+        if (dark && element == PE_IndicatorRadioButton) {
+            paintRadio(*option, painter);
+            return;
+        }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (dark && (element == PE_FrameLineEdit || element == PE_Frame)) {
+            // Fusion's own line is darker than the ground, where it can't be seen.
+            painter->setPen(kDarkLine);
+            painter->setBrush(Qt::NoBrush);
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        }
     }
 
     QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
@@ -193,8 +207,8 @@ QPalette viewPalette(QPalette palette, const Ground &ground, const QColor &selec
 void paintTick(const QStyleOption &option, QPainter *painter) {
     const QRectF box = QRectF(option.rect).adjusted(1.5, 1.5, -1.5, -1.5);
     const bool set = option.state & (QStyle::State_On | QStyle::State_NoChange);
-    const QColor ink = QApplication::palette().color(QPalette::Active, QPalette::Text);
-    const QColor ground = QApplication::palette().color(QPalette::Active, QPalette::Base);
+    const QColor ink = option.palette.color(QPalette::Text);
+    const QColor ground = option.palette.color(QPalette::Base);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     // Apart from the row that is marked, too, whichever of the two its ground is like.
@@ -209,6 +223,22 @@ void paintTick(const QStyleOption &option, QPainter *painter) {
         painter->drawPolyline(QPolygonF({at(0.22, 0.54), at(0.42, 0.74), at(0.78, 0.28)}));
     } else if (option.state & QStyle::State_NoChange) {
         painter->drawLine(at(0.25, 0.5), at(0.75, 0.5));
+    }
+    painter->restore();
+}
+
+void paintRadio(const QStyleOption &option, QPainter *painter) {
+    const QPointF middle = QRectF(option.rect).center();
+    const double radius = std::min(option.rect.width(), option.rect.height()) / 2.0 - 1.5;
+    const QColor ink = option.palette.color(QPalette::Text);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(ink, 1.2));
+    painter->setBrush(option.palette.color(QPalette::Base));
+    painter->drawEllipse(middle, radius, radius);
+    if (option.state & QStyle::State_On) {
+        painter->setBrush(ink);
+        painter->drawEllipse(middle, radius / 2.2, radius / 2.2);
     }
     painter->restore();
 }
