@@ -531,9 +531,8 @@ void DataGrid::rememberWidths() const {
         }
     }
     widths.sort();
-    runGuarded([&] {
-        application->columnMemory().keep(memoryName(), widths.join(QLatin1Char(' ')));
-    });
+    runGuarded(
+        [&] { application->columnMemory().keep(memoryName(), widths.join(QLatin1Char(' '))); });
 }
 
 }  // namespace kaldo

@@ -35,7 +35,6 @@ Qt::Alignment alignmentOf(const GridColumn::Settings &column) {
     return column.alignment.value_or(side) | Qt::AlignVCenter;
 }
 
-
 /// A minus is what a column takes that doesn't tell its characters.
 bool takesMinus(const GridColumn::Settings &column) {
     return column.allowed.isEmpty() || column.allowed.contains(QLatin1Char('-'));
@@ -432,8 +431,8 @@ bool GridDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const int margin = view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1;
-    const bool cut =
-        cell.fontMetrics.horizontalAdvance(cell.text) > view->visualRect(index).width() - 2 * margin;
+    const bool cut = cell.fontMetrics.horizontalAdvance(cell.text) >
+                     view->visualRect(index).width() - 2 * margin;
     QToolTip::showText(event->globalPos(), cut ? cell.text : QString(), view);
     return true;
 }

@@ -129,9 +129,8 @@ void LineField::paintEvent(QPaintEvent *event) {
     paintFocusRing(this);
 }
 
-void LineField::keepOnly(
-    QString *text, int *position,
-    const std::function<bool(QChar c, const QString &before)> &keep) const {
+void LineField::keepOnly(QString *text, int *position,
+                         const std::function<bool(QChar c, const QString &before)> &keep) const {
     QString kept;
     int cursor = 0;
     for (int i = 0; i < text->size(); ++i) {
@@ -177,8 +176,7 @@ void TextField::setAllowed(const QString &characters) {
 
 void TextField::normalise(QString *text, int *position) const {
     if (!allowed_.isEmpty()) {
-        keepOnly(text, position,
-                 [this](QChar c, const QString &) { return allowed_.contains(c); });
+        keepOnly(text, position, [this](QChar c, const QString &) { return allowed_.contains(c); });
     }
     if (upper_ || lower_) {
         for (QChar &c : *text) {
@@ -215,8 +213,8 @@ void NumberField::setValue(qint64 value) {
 bool NumberField::commit() {
     const bool fits = text().isEmpty() || (hasValue() && value() >= lowest_ && value() <= highest_);
     if (!fits) {
-        complain(
-            this, QStringLiteral("El número debe estar entre %1 y %2.").arg(lowest_).arg(highest_));
+        complain(this,
+                 QStringLiteral("El número debe estar entre %1 y %2.").arg(lowest_).arg(highest_));
     }
     return fits;
 }

@@ -37,8 +37,8 @@ protected:
     /// What of the text may stand; called for every change, typed, pasted or set. `position` is the
     /// cursor and may be moved along. What a person typed or pasted in vain is told.
     virtual void normalise(QString *text, int *position) const;
-    /// Keeps the characters that `keep` lets through, with the cursor behind the same ones; `before`
-    /// is what was kept of the text so far.
+    /// Keeps the characters that `keep` lets through, with the cursor behind the same ones;
+    /// `before` is what was kept of the text so far.
     void keepOnly(QString *text, int *position,
                   const std::function<bool(QChar c, const QString &before)> &keep) const;
 

@@ -173,10 +173,9 @@ void ListPopup::arrangeColumns() {
             continue;
         }
         const bool words = column.mask == CellMask::Text || column.mask == CellMask::Date;
-        columns[section] = {column.title, (words ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter,
-                            [mask = column.mask](const QVariant &value) {
-                                return maskedText(value, mask);
-                            }};
+        columns[section] = {
+            column.title, (words ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter,
+            [mask = column.mask](const QVariant &value) { return maskedText(value, mask); }};
         table_->setColumnHidden(section, false);
         header->moveSection(header->visualIndex(section), place++);
         const int title = fontMetrics().horizontalAdvance(column.title);

@@ -36,8 +36,9 @@ protected:
 
 /// The boxes of the desktop: modal to the active window, "&Sí" and "&No" or "&Aceptar", Escape
 /// means no. A held or repeated Enter presses nothing; a box that says that any key will do takes
-/// any. Afterwards the text of the field that has the focus is selected. The dialog is called "messageBox", its text
-/// stands in the label "messageText", its buttons are "yesButton", "noButton", "okButton".
+/// any. Afterwards the text of the field that has the focus is selected. The dialog is called
+/// "messageBox", its text stands in the label "messageText", its buttons are "yesButton",
+/// "noButton", "okButton".
 class BoxMessages : public Messages {
 protected:
     Answer show(const Message &message) override;

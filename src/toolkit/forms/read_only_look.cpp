@@ -15,8 +15,8 @@ void showReadOnly(QWidget *field, bool readOnly) {
 }
 
 void followColours(QWidget *field, bool readOnly, const QEvent &event) {
-    const bool changed = event.type() == QEvent::ApplicationPaletteChange ||
-                         event.type() == QEvent::PaletteChange;
+    const bool changed =
+        event.type() == QEvent::ApplicationPaletteChange || event.type() == QEvent::PaletteChange;
     if (changed && readOnly &&
         field->palette().brush(QPalette::Base) != QApplication::palette(field).window()) {
         showReadOnly(field, true);
