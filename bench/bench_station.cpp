@@ -17,6 +17,14 @@ using test::TestInstallation;
 
 constexpr std::array kDatabases{"BD_LOCAL.GDB", "BD_ODONTOLOGIA.GDB", "BD_FINANZAS.GDB"};
 
+/// The same context with services that keep nothing and never wait.
+Context contextOf(const Context &context, Messages &messages, report::Printing &printing) {
+    return {context.installation, context.clock,    context.ini,         context.session,
+            context.options,      messages,         context.fileDialogs, printing,
+            context.frame,        context.conexion, context.local,       context.odonto,
+            context.caja,         context.finanzas, context.escolares};
+}
+
 }  // namespace
 
 Answer PromptMessages::show(const Message &message) {
@@ -31,14 +39,16 @@ BenchStation::BenchStation(std::shared_ptr<TestInstallation> own,
                            std::shared_ptr<TestInstallation> bare)
     : bare_(std::move(bare)),
       station_(std::move(own)),
-      context_{station_.context.installation, station_.context.clock,
-               station_.context.ini,          station_.context.session,
-               station_.context.options,      messages,
-               station_.context.fileDialogs,  printing,
-               station_.context.frame,        station_.context.conexion,
-               station_.context.local,        station_.context.odonto,
-               station_.context.caja,         station_.context.finanzas,
-               station_.context.escolares} {
+      context_(contextOf(station_.context, messages, printing)) {
+    watch();
+}
+
+BenchStation::BenchStation(const QString &root)
+    : station_(root), context_(contextOf(station_.context, messages, printing)) {
+    watch();
+}
+
+void BenchStation::watch() {
     station_.conexion.setSeam(&recorder);
     if (Application *application = Application::current()) {
         application->setFailureHandler([](const std::exception &failure) {

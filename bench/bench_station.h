@@ -44,6 +44,8 @@ public:
     /// Both installations must be in the same state, and stay the only ones that open them.
     BenchStation(std::shared_ptr<test::TestInstallation> own,
                  std::shared_ptr<test::TestInstallation> bare);
+    /// Over files that somebody else keeps, without a twin.
+    explicit BenchStation(const QString &root);
     ~BenchStation();
 
     /// The twin of a connection's database, for the bare side.
@@ -58,6 +60,8 @@ public:
     Recorder recorder;
 
 private:
+    void watch();
+
     std::shared_ptr<test::TestInstallation> bare_;
     test::TestStation station_;
     Context context_;

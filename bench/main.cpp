@@ -35,7 +35,7 @@ const std::vector<Measurement> &measurements() {
 }
 
 constexpr const char *kUsage =
-    "usage: bench [--json FILE] [FILTER]\n"
+    "usage: bench [--json FILE] [FILTER | --volume ROOT]\n"
     "\n"
     "Runs the measurements whose name contains FILTER, all without one, and prints their table.\n"
     "Ends with 0 when every bar is held, 1 when one is missed, 2 when one could not be run.\n"
@@ -48,10 +48,10 @@ void usage(std::FILE *where) {
     }
 }
 
-int run(const QString &filter, const QString &jsonPath) {
+int run(const std::vector<Measurement> &chosen, const QString &filter, const QString &jsonPath) {
     Results results;
     bool broken = false;
-    for (const Measurement &measurement : measurements()) {
+    for (const Measurement &measurement : chosen) {
         const QString name = QString::fromLatin1(measurement.name);
         if (!name.contains(filter)) {
             continue;
@@ -87,11 +87,14 @@ int main(int argc, char **argv) {
     kaldo::Application application(argc, argv);
     QString filter;
     QString jsonPath;
+    QString volume;
     bool memoryOnly = false;
     const QStringList arguments = QApplication::arguments().mid(1);
     for (int at = 0; at < arguments.size(); ++at) {
         if (arguments[at] == QLatin1String("--json") && at + 1 < arguments.size()) {
             jsonPath = arguments[++at];
+        } else if (arguments[at] == QLatin1String("--volume") && at + 1 < arguments.size()) {
+            volume = arguments[++at];
         } else if (arguments[at] == QLatin1String("--memory-child")) {
             memoryOnly = true;
         } else if (!arguments[at].startsWith(u'-') && filter.isEmpty()) {
@@ -104,5 +107,8 @@ int main(int argc, char **argv) {
     if (memoryOnly) {
         return memoryChild();
     }
-    return run(filter, jsonPath);
+    if (!volume.isEmpty()) {
+        return run({{"volume", [&volume] { return onVolume(volume); }}}, {}, jsonPath);
+    }
+    return run(measurements(), filter, jsonPath);
 }

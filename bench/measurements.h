@@ -27,6 +27,12 @@ Results catalogues();
 /// A price list copied into other sales areas, against its bare statements.
 Results priceListCopy();
 
+/// What a station feels on twenty years of data, in one table with the small database. `root`: an
+/// installation that scripts/volume has filled; some admissions are registered in it.
+Results onVolume(const QString &root);
+/// The start over these databases against the start over the example school.
+Results startUpOn(const QString &root);
+
 /// Resident memory after many registered notes. Runs in a process of its own.
 Results memory();
 /// What that process does: prints its two figures.

@@ -56,4 +56,23 @@ Results startUp() {
              .runs = kRuns}};
 }
 
+Results startUpOn(const QString &root) {
+    const test::TestInstallation small;
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    for (int run = 0; run <= kRuns; ++run) {
+        const double large = started(QStringLiteral("bench_login"), {root});
+        const double example = started(QStringLiteral("bench_login"), {small.root()});
+        if (run > 0) {
+            ours.push_back(large);
+            theirs.push_back(example);
+        }
+    }
+    return {{.name = QStringLiteral("start-up to the login, against the small database"),
+             .kaldo = median(ours),
+             .bare = median(theirs),
+             .bar = 1.15,
+             .runs = kRuns}};
+}
+
 }  // namespace kaldo::bench
