@@ -17,6 +17,9 @@ constexpr unsigned kDialect = 3;
 constexpr int kCachePages = 50000;
 /// Days from the engine's day 0, 17 November 1858, to 1 January 2000.
 constexpr int kEngineDay = 51544;
+constexpr int kForcedWritesAsTheyAre = -1;
+constexpr int kForcedWritesOff = 0;
+constexpr int kForcedWritesOn = 1;
 constexpr int kTicksOfSecond = 10000;
 
 /// Runs an action of the client library; its failure as a sentence.
@@ -45,9 +48,9 @@ std::string insertText(const std::string &table, const std::string &columns) {
 
 }  // namespace
 
-BulkDatabase::BulkDatabase(const std::string &path)
+BulkDatabase::BulkDatabase(const std::string &path, Use use)
     : path_(path), master_(Firebird::fb_get_master_interface()), rawStatus_(master_->getStatus()) {
-    attach(false);
+    attach(use == Use::Fill ? kForcedWritesOff : kForcedWritesAsTheyAre);
 }
 
 BulkDatabase::~BulkDatabase() {
@@ -64,7 +67,7 @@ BulkDatabase::~BulkDatabase() {
     rawStatus_->dispose();
 }
 
-void BulkDatabase::attach(bool forcedWrites) {
+void BulkDatabase::attach(int forcedWrites) {
     guarded(master_, rawStatus_, path_, [&](Status &status) {
         Firebird::IUtil *util = master_->getUtilInterface();
         Firebird::IXpbBuilder *dpb =
@@ -73,7 +76,9 @@ void BulkDatabase::attach(bool forcedWrites) {
         dpb->insertString(&status, isc_dpb_lc_ctype, "UTF8");
         dpb->insertTag(&status, isc_dpb_utf8_filename);
         dpb->insertInt(&status, isc_dpb_num_buffers, kCachePages);
-        dpb->insertInt(&status, isc_dpb_force_write, forcedWrites ? 1 : 0);
+        if (forcedWrites != kForcedWritesAsTheyAre) {
+            dpb->insertInt(&status, isc_dpb_force_write, forcedWrites);
+        }
         Firebird::IProvider *provider = master_->getDispatcher();
         attachment_ = provider->attachDatabase(
             &status, path_.c_str(), dpb->getBufferLength(&status), dpb->getBuffer(&status));
@@ -142,6 +147,43 @@ std::vector<std::vector<std::string>> BulkDatabase::rows(const std::string &text
     });
 }
 
+std::string BulkDatabase::plan(const std::string &text) {
+    return guarded(master_, rawStatus_, text, [&](Status &status) {
+        Firebird::IStatement *statement =
+            attachment_->prepare(&status, transaction_, 0, text.c_str(), kDialect,
+                                 Firebird::IStatement::PREPARE_PREFETCH_DETAILED_PLAN);
+        const char *told = statement->getPlan(&status, true);
+        std::string result = told ? told : "";
+        statement->free(&status);
+        return result;
+    });
+}
+
+std::map<std::string, std::int64_t> BulkDatabase::sequentialReads() {
+    std::map<int, std::string> names;
+    for (const auto &row :
+         rows("select rdb$relation_id, trim(rdb$relation_name) from rdb$relations")) {
+        names[std::stoi(row[0])] = row[1];
+    }
+    return guarded(master_, rawStatus_, path_, [&](Status &status) {
+        const unsigned char item = isc_info_read_seq_count;
+        std::array<unsigned char, 16384> answer{};
+        attachment_->getInfo(&status, 1, &item, answer.size(), answer.data());
+        std::map<std::string, std::int64_t> reads;
+        const auto number = [&answer](std::size_t at, short bytes) {
+            return isc_portable_integer(answer.data() + at, bytes);
+        };
+        if (answer[0] == item) {
+            const auto length = static_cast<std::size_t>(number(1, 2));
+            constexpr std::size_t kEntry = 6;  // number of the table, count
+            for (std::size_t at = 3; at + kEntry <= 3 + length; at += kEntry) {
+                reads[names[static_cast<int>(number(at, 2))]] = number(at + 2, 4);
+            }
+        }
+        return reads;
+    });
+}
+
 void BulkDatabase::commit() {
     static constexpr std::array<unsigned char, 6> kWriting = {
         isc_tpb_version3,    isc_tpb_write, isc_tpb_read_committed,
@@ -157,7 +199,7 @@ void BulkDatabase::commit() {
 
 void BulkDatabase::finish() {
     detach();
-    attach(true);
+    attach(kForcedWritesOn);
 }
 
 BulkStatement::BulkStatement(BulkDatabase &database, const std::string &text)

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,8 +29,13 @@ struct Null {};
 /// statements, prepared statements that outlive commits. All failures are std::runtime_error.
 class BulkDatabase {
 public:
-    /// `path`: a file, with the engine in this process. Forced writes go off until `finish()`.
-    explicit BulkDatabase(const std::string &path);
+    enum class Use {
+        Fill,  ///< forced writes go off until `finish()`
+        Look,  ///< the database's own settings stand
+    };
+
+    /// `path`: a file, with the engine in this process.
+    BulkDatabase(const std::string &path, Use use);
     ~BulkDatabase();
     BulkDatabase(const BulkDatabase &) = delete;
     BulkDatabase &operator=(const BulkDatabase &) = delete;
@@ -38,6 +44,10 @@ public:
     void run(const std::string &text);
     /// Every row of a select, all columns as texts; NULL is an empty one.
     std::vector<std::vector<std::string>> rows(const std::string &text);
+    /// The engine's way through a text, one step a line, whose parameters are question marks.
+    std::string plan(const std::string &text);
+    /// Rows read one after the other so far by this attachment, by table.
+    std::map<std::string, std::int64_t> sequentialReads();
     /// Makes what was written stand and begins the next transaction.
     void commit();
     /// Forced writes on again: what was written so far lies on the disk when this returns.
@@ -46,7 +56,7 @@ public:
 private:
     friend class BulkStatement;
 
-    void attach(bool forcedWrites);
+    void attach(int forcedWrites);
     void detach();
 
     std::string path_;

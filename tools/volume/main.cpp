@@ -6,6 +6,7 @@
 #include <exception>
 #include <string>
 
+#include "tools/volume/plans.h"
 #include "tools/volume/rows.h"
 
 namespace {
@@ -19,6 +20,8 @@ struct Arguments {
     Size size;
     std::uint64_t seed = 1;
     bool routines = false;
+    bool plans = false;
+    bool frozen = false;
 };
 
 /// False after a wrong one.
@@ -28,6 +31,10 @@ bool read(int count, char **values, Arguments &arguments) {
         const char *value = at + 1 < count ? values[at + 1] : nullptr;
         if (name == "--routines") {
             arguments.routines = true;
+        } else if (name == "--plans") {
+            arguments.plans = true;
+        } else if (name == "--frozen") {
+            arguments.frozen = true;
         } else if (name == "--notes" && value) {
             arguments.size.notes = std::stoi(value);
             ++at;
@@ -83,15 +90,17 @@ void setStatistics(BulkDatabase &database) {
 
 void fill(const Arguments &arguments) {
     const std::string folder = arguments.root + "/DataBase/";
-    BulkDatabase clinic(folder + "BD_ODONTOLOGIA.GDB");
-    BulkDatabase finance(folder + "BD_FINANZAS.GDB");
-    BulkDatabase students(folder + "BD_ESCOLARES.GDB");
+    BulkDatabase clinic(folder + "BD_ODONTOLOGIA.GDB", BulkDatabase::Use::Fill);
+    BulkDatabase finance(folder + "BD_FINANZAS.GDB", BulkDatabase::Use::Fill);
+    BulkDatabase students(folder + "BD_ESCOLARES.GDB", BulkDatabase::Use::Fill);
     School school(arguments.size, arguments.seed, clinic);
     writePeople(school, clinic, finance, students);
 
     Watch watch;
     const std::vector<std::string> indices = freeIndices(clinic);
-    if (!arguments.routines) {
+    // An index that is made anew knows its rows, as one in a school doesn't.
+    const bool indicesOff = !arguments.routines && !arguments.frozen;
+    if (indicesOff) {
         for (const std::string &index : indices) {
             clinic.run("alter index " + index + " inactive");
         }
@@ -113,16 +122,18 @@ void fill(const Arguments &arguments) {
     finance.commit();
     writeCounters(school, clinic);
     watch.tell(std::to_string(arguments.size.notes) + " notes");
-    if (!arguments.routines) {
+    if (indicesOff) {
         for (const std::string &index : indices) {
             clinic.run("alter index " + index + " active");
             clinic.commit();
         }
         watch.tell(std::to_string(indices.size()) + " indices");
     }
-    setStatistics(clinic);
-    setStatistics(finance);
-    watch.tell("statistics");
+    if (!arguments.frozen) {
+        setStatistics(clinic);
+        setStatistics(finance);
+        watch.tell("statistics");
+    }
     clinic.finish();
     finance.finish();
     students.finish();
@@ -134,10 +145,16 @@ void fill(const Arguments &arguments) {
 int main(int count, char **values) {
     Arguments arguments;
     if (!read(count, values, arguments)) {
-        std::fputs("usage: volume ROOT [--notes N] [--seed S] [--routines]\n", stderr);
+        std::fputs(
+            "usage: volume ROOT [--notes N] [--seed S] [--routines] [--frozen] | volume ROOT "
+            "--plans\n",
+            stderr);
         return 2;
     }
     try {
+        if (arguments.plans) {
+            return showPlans(arguments.root) ? 0 : 1;
+        }
         fill(arguments);
     } catch (const std::exception &failure) {
         std::fprintf(stderr, "%s\n", failure.what());
