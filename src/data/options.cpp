@@ -1,5 +1,7 @@
 #include "data/options.h"
 
+#include "data/option_values.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -32,15 +34,16 @@ int numberOr(int missing, const IniFile &ini, const QString &section, const QStr
 /// A date that is kept as a text; empty is none.
 QString dateText(const IniFile &ini, const QString &section, const QString &key) {
     const QString text = ini.value(section, key);
-    if (!text.isEmpty() && !parseShortDate(text).isValid()) {
+    const QDate date = parseShortDate(text);
+    if (!text.isEmpty() && !date.isValid()) {
         refuse(text, QStringLiteral("fecha"), section, key);
     }
-    return text;
+    return date.toString(QStringLiteral("dd/MM/yyyy"));
 }
 
 QTime hour(const IniFile &ini, const QString &section, const QString &key) {
     const QString text = ini.value(section, key);
-    const QTime time = QTime::fromString(text, QStringLiteral("HH:mm:ss"));
+    const QTime time = parseHour(text);
     if (!text.isEmpty() && !time.isValid()) {
         refuse(text, QStringLiteral("hora"), section, key);
     }
@@ -126,7 +129,7 @@ void Options::loadSystem(const IniFile &ini) {
 
 void Options::loadAdmissions(const IniFile &ini) {
     FechaBusquedaAdmisiones = dateText(ini, kAdmissions, QStringLiteral("fbusqueda"));
-    DiasBusqueda = ini.integer(kAdmissions, QStringLiteral("dias"));
+    DiasBusqueda = std::clamp(ini.integer(kAdmissions, QStringLiteral("dias")), 0, kMostSearchDays);
     AlumnoCanalizado = ini.isYes(kAdmissions, QStringLiteral("canalizado"));
     // Absent is the first model, empty is none.
     const QString consent = QStringLiteral("consentimiento");
@@ -146,7 +149,8 @@ void Options::loadDossiers(const IniFile &ini) {
     ExpedientesOtrosCentros = ini.isYes(kDossiers, QStringLiteral("verexp"));
     ValidarEdad = ini.isYes(kDossiers, QStringLiteral("validaedad"));
     ActivarPrestamo = ini.isYes(kDossiers, QStringLiteral("prestamo"));
-    ExpedientesPorAlumno = ini.integer(kDossiers, QStringLiteral("expedientes"));
+    ExpedientesPorAlumno =
+        std::clamp(ini.integer(kDossiers, QStringLiteral("expedientes")), 0, kMostDossiers);
     SistemaAnterior = ini.isYes(kDossiers, QStringLiteral("sysanterior"));
     // The old system's switch governs the loans and not the search that bears its name.
     if (!SistemaAnterior) {
@@ -161,7 +165,8 @@ void Options::loadDossiers(const IniFile &ini) {
 }
 
 void Options::loadPrints(const IniFile &ini) {
-    SegundosDuplicado = ini.integer(kPrints, QStringLiteral("duplicado"));
+    SegundosDuplicado =
+        std::clamp(ini.integer(kPrints, QStringLiteral("duplicado")), 0, kMostDuplicateSeconds);
     DesactivarDuplicados = ini.isYes(kPrints, QStringLiteral("des_duplicado"));
     PreliminarNotas = ini.isYes(kPrints, QStringLiteral("preliminar"));
     PreliminarHojas = ini.isYes(kPrints, QStringLiteral("preliminar_hojas"));
@@ -271,7 +276,6 @@ QDate Options::fechaExpedientes() const {
 }
 
 QDate parseShortDate(const QString &text) {
-    return QDate::fromString(text.trimmed(), QStringLiteral("dd/MM/yyyy"));
+    return QDate::fromString(text.trimmed(), QStringLiteral("d/M/yyyy"));
 }
-
 }  // namespace kaldo

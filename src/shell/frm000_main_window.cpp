@@ -1,5 +1,6 @@
 #include "shell/frm000_main_window.h"
 
+#include "data/option_values.h"
 #include "shell/backdrop.h"
 #include "shell/closing_hour.h"
 #include "shell/main_skin.h"
@@ -215,8 +216,7 @@ void FRM000::Timer1() {
         return;
     }
     const QTime hour =
-        QTime::fromString(context_.ini.value(QStringLiteral("Equipo"), QStringLiteral("hora")),
-                          QStringLiteral("HH:mm:ss"));
+        parseHour(context_.ini.value(QStringLiteral("Equipo"), QStringLiteral("hora")));
     if (closingHourReached(before, now, hour)) {
         emit closingHour();
     }

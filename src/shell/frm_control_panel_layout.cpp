@@ -1,5 +1,6 @@
 #include "shell/frm_control_panel.h"
 
+#include "data/option_values.h"
 #include "shell/federal_states.h"
 #include "shell/side_by_side.h"
 
@@ -15,9 +16,6 @@ constexpr int kUserWidth = 8;
 constexpr int kCityWidth = 20;
 constexpr int kTextWidth = 255;
 constexpr int kTextShown = 28;
-constexpr int kMostDays = 100;
-constexpr int kMostDossiers = 10;
-constexpr int kMostSeconds = 60;
 constexpr int kNumberDigits = 5;
 constexpr QSize kLogo(260, 150);
 constexpr int kCharactersWide = 165;
@@ -290,7 +288,7 @@ form::Item FRMControlPanel::admissionsGroup() {
             sheet_.option(
                 number(nullptr, QStringLiteral("DiasBusqueda"), QStringLiteral("Días de busqueda"))
                     .width(4)
-                    .range(0, kMostDays),
+                    .range(0, kMostSearchDays),
                 &Options::DiasBusqueda),
             sheet_.option(tick("AlumnoCanalizado", QStringLiteral("Registrar Alumno Canalizado"),
                                &AlumnoCanalizado_),
@@ -410,7 +408,7 @@ form::Item FRMControlPanel::impresiones() {
             sheet_.option(number(&SegundosDuplicado_, QStringLiteral("SegundosDuplicado"),
                                  QStringLiteral("Duplicado de impresiones:"))
                               .width(4)
-                              .range(0, kMostSeconds),
+                              .range(0, kMostDuplicateSeconds),
                           &Options::SegundosDuplicado),
             sheet_.option(tick("DesactivarDuplicados", QStringLiteral("Desactivar duplicados."),
                                &DesactivarDuplicados_)

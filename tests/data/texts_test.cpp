@@ -117,6 +117,10 @@ TEST(OptionsTest, BadNumbersAndDatesAreRefusedAndEmptyOnesAreNone) {
         EXPECT_THROW(load(section, key, value), std::invalid_argument) << section << ' ' << key;
     }
     EXPECT_EQ(load("Cliente", "estado", "").EstadoFiscal, -1);
+    EXPECT_EQ(load("Equipo", "hora", "8:05:00").HoraApagar, QTime(8, 5));
+    EXPECT_EQ(load("Expedientes", "fbusqueda", "1/2/2024").FechaBusquedaExpedientes, "01/02/2024");
+    EXPECT_EQ(load("Admisiones", "dias", "5000").DiasBusqueda, 100);
+    EXPECT_EQ(load("Impresiones", "duplicado", "-3").SegundosDuplicado, 0);
     EXPECT_EQ(load("Usuario", "estado", "").Estado, -1);
     EXPECT_FALSE(load("Expedientes", "fbusqueda", "").fechaExpedientes().isValid());
     EXPECT_FALSE(load("Equipo", "hora", "").HoraApagar.isValid());

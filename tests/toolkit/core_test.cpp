@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <QStringConverter>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -154,6 +155,34 @@ TEST_F(IniFileTest, MissingLatinAndBinaryFilesAreReadAsFarAsTheyMakeSense) {
 
 TEST_F(IniFileTest, ANumberThatIsNoneFailsInSpanish) {
     const IniFile ini(write("[Admisiones]\ndias=\n[Impresiones]\nduplicado=5\n"));
+TEST_F(IniFileTest, WhatEditorsOfAllKindsLeaveIsReadAndKept) {
+    // One line of another code page beside those of this one; Windows' line ends; no last one.
+    const QString path = write(
+        "[Cliente] ; la escuela\r\nnombre=Cl\xC3\xADnica\r\n"
+        "facultad=Odontolog\xED"
+        "a\r\niniciales=\"U L\"\r\nclinica='x' y 'z");
+    IniFile ini(path);
+    EXPECT_EQ(ini.value("Cliente", "nombre"), QStringLiteral("Clínica"));
+    EXPECT_EQ(ini.value("Cliente", "facultad"), QStringLiteral("Odontología"));
+    EXPECT_EQ(ini.value("Cliente", "iniciales"), "U L");
+    EXPECT_EQ(ini.value("Cliente", "clinica"), "'x' y 'z");
+    ini.setValue("Cliente", "iniciales", "\"El Litoral\"");
+    ini.setValue("Otra", "uno", "1");
+    EXPECT_EQ(ini.value("Cliente", "iniciales"), "\"El Litoral\"");
+    EXPECT_EQ(QString::fromUtf8(read()),
+              QStringLiteral("[Cliente] ; la escuela\r\nnombre=Clínica\r\nfacultad=Odontología\r\n"
+                             "iniciales=\"\"El Litoral\"\"\r\nclinica='x' y 'z\r\n\r\n"
+                             "[Otra]\r\nuno=1\r\n"));
+    const QString text = QStringLiteral("[Sql]\r\ncliente=Peña\r\n");
+    for (const auto encoding : {QStringConverter::Utf16LE, QStringConverter::Utf16BE}) {
+        for (const auto flag :
+             {QStringConverter::Flag::Default, QStringConverter::Flag::WriteBom}) {
+            const QByteArray bytes = QStringEncoder(encoding, flag)(text);
+            EXPECT_EQ(IniFile(write(bytes)).value("Sql", "cliente"), QStringLiteral("Peña"));
+        }
+    }
+}
+
     EXPECT_EQ(ini.integer("Impresiones", "duplicado"), 5);
     for (const char *section : {"Admisiones", "Nada"}) {
         try {

@@ -14,22 +14,55 @@ namespace kaldo {
 
 namespace {
 
-QString decode(QByteArray bytes) {
-    if (bytes.startsWith("\xEF\xBB\xBF")) {
-        bytes.remove(0, 3);
-    }
+/// An editor of another code page leaves single lines that are no UTF-8.
+QString decodeLine(const QByteArray &bytes) {
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = utf8(bytes);
     return utf8.hasError() ? QString::fromLatin1(bytes) : text;
 }
 
+/// The lines of a file, each with its carriage return where it has one.
+QStringList decode(const QByteArray &bytes) {
+    const auto wide = QStringConverter::encodingForData(bytes, u'[');
+    if (wide && *wide != QStringConverter::Utf8) {
+        const QString text = QStringDecoder(*wide)(bytes);
+        return text.split(u'\n');
+    }
+    QStringList lines;
+    for (const QByteArray &line : bytes.split('\n')) {
+        lines += decodeLine(line);
+    }
+    if (lines.first().startsWith(QChar::ByteOrderMark)) {
+        lines.first().remove(0, 1);
+    }
+    return lines;
+}
+
 /// What stands between the brackets of a section's line, in lower case; none for any other line.
+/// What follows the bracket is a comment.
 std::optional<QString> sectionName(QStringView line) {
     const QStringView trimmed = line.trimmed();
-    if (!trimmed.startsWith(u'[') || !trimmed.endsWith(u']')) {
+    const qsizetype end = trimmed.indexOf(u']');
+    if (!trimmed.startsWith(u'[') || end < 0) {
         return std::nullopt;
     }
-    return trimmed.mid(1, trimmed.size() - 2).trimmed().toString().toLower();
+    return trimmed.mid(1, end - 1).trimmed().toString().toLower();
+}
+
+bool isQuoted(QStringView value) {
+    return value.size() >= 2 && value.front() == value.back() &&
+           (value.front() == u'"' || value.front() == u'\'');
+}
+
+/// A value as its line holds it: one that begins and ends with quotes of its own needs a pair more.
+QString written(const QString &value) {
+    QString line = value;
+    line.replace(u'\n', u' ').replace(u'\r', u' ');
+    return isQuoted(line.trimmed()) ? u'"' + line + u'"' : line;
+}
+
+bool endsWithReturn(const QStringList &lines) {
+    return !lines.isEmpty() && lines.first().endsWith(u'\r');
 }
 
 QString placeOf(const QString &section, const QString &key) {
@@ -47,11 +80,11 @@ void IniFile::reread() {
     if (!file.open(QIODevice::ReadOnly)) {
         return;
     }
-    QString text = decode(file.readAll());
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    QStringList lines = text.split(u'\n');
+    QStringList lines = decode(file.readAll());
     if (lines.last().isEmpty()) {
         lines.removeLast();
+    } else if (endsWithReturn(lines)) {
+        lines.last() += u'\r';
     }
     if (!lines.isEmpty()) {
         setLines(lines);
@@ -103,7 +136,8 @@ QString IniFile::value(const QString &section, const QString &key,
         return defaultValue;
     }
     const QString &line = lines_.at(at);
-    return line.mid(line.indexOf(u'=') + 1).trimmed();
+    const QString text = line.mid(line.indexOf(u'=') + 1).trimmed();
+    return isQuoted(text) ? text.mid(1, text.size() - 2) : text;
 }
 
 bool IniFile::isYes(const QString &section, const QString &key) const {
@@ -125,31 +159,31 @@ int IniFile::integer(const QString &section, const QString &key) const {
 }
 
 void IniFile::setValue(const QString &section, const QString &key, const QString &value) {
-    QString clean = value;
-    clean.replace(u'\n', u' ').replace(u'\r', u' ');
     if (!together_) {
         reread();
     }
     QStringList lines = lines_;
+    const QString end = endsWithReturn(lines) ? QStringLiteral("\r") : QString();
+    const QString clean = written(value) + end;
     const qsizetype start = sectionLine(section);
     const qsizetype at = places_.value(placeOf(section, key), -1);
     if (at >= 0) {
         const QString &line = lines.at(at);
         lines[at] = line.left(line.indexOf(u'=') + 1) + clean;
     } else if (start >= 0) {
-        qsizetype end = start + 1;
-        while (end < lines.size() && !sectionName(lines.at(end))) {
-            ++end;
+        qsizetype behind = start + 1;
+        while (behind < lines.size() && !sectionName(lines.at(behind))) {
+            ++behind;
         }
-        while (end > start + 1 && lines.at(end - 1).trimmed().isEmpty()) {
-            --end;
+        while (behind > start + 1 && lines.at(behind - 1).trimmed().isEmpty()) {
+            --behind;
         }
-        lines.insert(end, key + u'=' + clean);
+        lines.insert(behind, key + u'=' + clean);
     } else {
         if (!lines.isEmpty() && !lines.last().trimmed().isEmpty()) {
-            lines += QString();
+            lines += end;
         }
-        lines += u'[' + section + u']';
+        lines += u'[' + section + u']' + end;
         lines += key + u'=' + clean;
     }
     if (!together_ && lines != lines_) {
