@@ -135,6 +135,10 @@ TEST(ClosingHour, LiesBetweenTwoTicks) {
     EXPECT_FALSE(closingHourReached({}, at(20, 30, 0), hour)) << "started after the hour";
     EXPECT_TRUE(closingHourReached({}, at(20, 0, 0), hour));
     EXPECT_FALSE(closingHourReached(at(0, 0, 0), at(23, 0, 0), QTime()));
+    EXPECT_TRUE(closingHourReached(at(19, 59, 0), at(20, 1, 0), hour)) << "two busy minutes";
+    EXPECT_FALSE(closingHourReached(at(19, 59, 0), at(20, 1, 1), hour)) << "a sleep";
+    EXPECT_FALSE(closingHourReached(at(20, 0, 1, 2), at(20, 0, 1), hour)) << "a day further";
+    EXPECT_TRUE(closingHourReached(at(12, 0, 0), at(20, 0, 0), hour)) << "awake on the second";
 }
 
 }  // namespace kaldo::test
