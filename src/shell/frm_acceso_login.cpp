@@ -163,8 +163,9 @@ void FRMAcceso::CheckBox1Click() {
         CheckBox1_->setChecked(false);
         return;
     }
-    context().ini.setValue(kUsuario, QStringLiteral("user"),
-                           CheckBox1_->isChecked() ? Edit1_->text() : QString());
+    const QString remembered = CheckBox1_->isChecked() ? Edit1_->text() : QString();
+    context().ini.setValue(kUsuario, QStringLiteral("user"), remembered);
+    context().options.Usuario = remembered;  // the control panel would write its own back
     main_.Ini();
 }
 

@@ -350,6 +350,8 @@ TEST(Password, IsChangedByItsOwner) {
     station.messages.expectInformation(
         QStringLiteral("La nueva contraseña ha sido registrada correctamente, presione cualquier "
                        "tecla para continuar."));
+        EXPECT_EQ(station.program->context().options.Usuario, "cajero1")
+            << "or the control panel would write the old one back";
     station.inDialog(
         station.login(), [&] { station.window().openEntry("J1"); },
         [&] {
