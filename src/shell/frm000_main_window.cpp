@@ -160,6 +160,33 @@ void FRM000::showUser() {
     panels_->setPanel(5, QStringLiteral("   Ciudad: ") + context_.session.Ciudad);
 }
 
+void FRM000::restore(const Standing &before) {
+    const Notice shown = rights_.notice;
+    context_.session = before.session;
+    applyRights(before.rights);
+    Panel2_->hide();
+    showSkinNotice(before.rights.notice);
+    if (!sessionStarted_) {
+        for (const int panel : {0, 3, 5}) {
+            panels_->setPanel(panel, QString());
+        }
+        return;
+    }
+    showUser();
+    const QString profile = context_.session.Acceso;
+    if (profile == QLatin1String("AM") || profile == QLatin1String("CA")) {
+        showRate();
+    }
+    runGuarded([&] {
+        if (shown != Notice::None && before.rights.notice == Notice::None) {
+            MainSkin();  // the notice had a picture of its own
+        }
+        if (profile == QLatin1String("CA") && context_.options.GenerarEstadisticas) {
+            refreshDeskFigures();
+        }
+    });
+}
+
 void FRM000::startSession() {
     sessionStarted_ = true;
     backdrop_->viewport()->update();

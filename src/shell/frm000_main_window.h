@@ -53,6 +53,15 @@ public:
     void EnableButtons();
     /// Status bar and side bar of the user who has just logged in.
     void showUser();
+    /// What a login changes before it is done.
+    struct Standing {
+        Session session;
+        ShellRights rights;
+    };
+    Standing standing() const { return {context_.session, rights_}; }
+    /// Takes a login back that was refused or failed: session, rights and what the window shows of
+    /// them are again what they were. Throws nothing.
+    void restore(const Standing &before);
     /// The end of a login: the window takes input again.
     void startSession();
     bool sessionStarted() const { return sessionStarted_; }
@@ -139,6 +148,7 @@ private:
     QWidget *Panel2_ = nullptr;
     class Button *noticeButton_ = nullptr;
     Notice notice_ = Notice::None;
+    ShellRights rights_;
     QString splashPicture_;
     QPointer<QMdiSubWindow> child_;
     QTimer clock_;

@@ -235,6 +235,7 @@ void FRM000::EnableButtons() {
 }
 
 void FRM000::applyRights(const ShellRights &rights) {
+    rights_ = rights;
     for (auto item = actions_.begin(); item != actions_.end(); ++item) {
         item.value()->setEnabled(rights.enabled.contains(item.key()));
     }

@@ -1,7 +1,6 @@
 #include "shell/frm_acceso_login.h"
 
 #include "data/schema_version.h"
-#include "shell/frm000_main_window.h"
 #include "shell/frm_inicio_firebird_wizard.h"
 #include "shell/frm_pass_password.h"
 #include "shell/update_check.h"
@@ -108,6 +107,7 @@ void FRMAcceso::formCreate() {
     } catch (const std::exception &failure) {
         main_.tellFailure(failure);
     }
+    takeBack();
 }
 
 bool FRMAcceso::hasUnattendedUser() const {
@@ -187,6 +187,7 @@ void FRMAcceso::BitBtn1Click() {
             cutToWidth(context().ini.value(kUsuario, QStringLiteral("pass")), kPasswordBuffer);
     }
     if (logIn(code, password)) {
+        before_.reset();
         Edit2_->clear();
         main_.startSession();
         accept();
@@ -204,6 +205,9 @@ bool FRMAcceso::logIn(const QString &code, const QString &password) {
     if (user.isEmpty()) {
         refuseWrongPassword();
         return false;
+    }
+    if (!before_) {
+        before_ = main_.standing();
     }
     fillSession(code);
     main_.showUser();
@@ -227,6 +231,12 @@ bool FRMAcceso::logIn(const QString &code, const QString &password) {
     }
     offerWizard();
     return true;
+}
+
+void FRMAcceso::takeBack() {
+    if (before_) {
+        main_.restore(*std::exchange(before_, std::nullopt));
+    }
 }
 
 void FRMAcceso::refuseWrongPassword() {
@@ -360,6 +370,7 @@ void FRMAcceso::reject() {
 }
 
 void FRMAcceso::done(int result) {
+    takeBack();
     // Without a login the window goes back to the session that stands; on a station for
     // consultations there may be none.
     main_.setEnabled(fromMenu_ || main_.sessionStarted());

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "app/screen.h"
+#include <optional>
+
+#include "shell/frm000_main_window.h"
 
 class QLabel;
 
@@ -8,7 +10,6 @@ namespace kaldo {
 
 class Button;
 class CheckField;
-class FRM000;
 class FRMInicioFirebird;
 class FRMPass;
 class TextField;
@@ -48,6 +49,8 @@ private:
     bool hasUnattendedUser() const;
     /// True when the user stands in session; else what is wrong has been told.
     bool logIn(const QString &code, const QString &password);
+    /// Where a login was begun and not done, what stood before it stands again.
+    void takeBack();
     void refuseWrongPassword();
     void fillSession(const QString &code);
     void loadRate();
@@ -60,6 +63,8 @@ private:
     FRMPass &password_;
     UpdateCheck &update_;
     FRMInicioFirebird &wizard_;
+    /// While a login has filled the session and not come to its end: what stood before.
+    std::optional<FRM000::Standing> before_;
     int failures_ = 0;
     bool fromMenu_ = false;
 

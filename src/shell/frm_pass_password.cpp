@@ -65,8 +65,13 @@ void FRMPass::reset() {
 }
 
 bool FRMPass::checkCurrent() {
-    // A login that failed leaves no row behind, and no password is like none.
-    const NamedQuery &user = context().odonto.ControlUsuarios1;
+    const QString code = session().Usuario;
+    NamedQuery &user = context().odonto.ControlUsuarios1;
+    if (user.text(QStringLiteral("usuario")) != code) {
+        // A login that was refused left no row, or that of somebody else.
+        user.open({{QStringLiteral("usr"), code}, {QStringLiteral("pas"), Edit1_->text()}});
+    }
+    // No password is like none.
     if (!user.isEmpty() &&
         Edit1_->text().trimmed() == user.text(QStringLiteral("pass")).trimmed()) {
         return true;

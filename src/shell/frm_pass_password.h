@@ -7,7 +7,7 @@ namespace kaldo {
 class Button;
 class TextField;
 
-/// Change of the password of the user in session, as the row that ControlUsuarios1 holds tells it.
+/// Change of the password of the user in session, as her row in ControlUsuarios1 tells it.
 class FRMPass final : public Dialog {
     Q_OBJECT
 

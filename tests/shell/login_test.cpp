@@ -233,6 +233,61 @@ TEST(Login, CashierWhoIsMissingInFinance) {
     });
     EXPECT_TRUE(station.stillOpen);
     EXPECT_FALSE(station.window().sessionStarted());
+    EXPECT_FALSE(station.enabled("E1")) << "nobody is at the window";
+    EXPECT_EQ(station.panel(0), "");
+}
+
+TEST(Login, RefusedOverASessionLeavesItUntouched) {
+    ShellStation station;
+    station.installation.setIni("Usuario", "cambiar_pass", "S");
+    station.logIn("admin", "admin");
+    Connection &clinic = station.program->conexion().FBOdonto;
+    run(station.program->conexion().FBFinanzas, "delete from cg_usuario where app_login='CAJERO1'");
+    run(clinic, "update controlusuarios set num_caja='abc' where usuario='cajero3'");
+    const auto seen = [&] {
+        QStringList state{station.session().Usuario, station.session().Origen,
+                          station.session().Prog, station.panel(0), station.panel(3)};
+        for (const char *entry : {"B1", "E1", "I1", "J2a"}) {
+            state += station.enabled(entry) ? "1" : "0";
+        }
+        for (const char *name : {"sitesGroup", "deskGroup"}) {
+            state += child<QWidget>(&station.window(), name)->isVisible() ? "1" : "0";
+        }
+        return state;
+    };
+    const QStringList before = seen();
+    station.messages.expectError(kNoFinance);
+    station.messages.expectError(QStringLiteral("'abc' no es un número de caja válido."));
+    station.messages.expectWarning(QStringLiteral(
+        "La contraseña actual es incorrecta, presione cualquier tecla para continuar."));
+    for (const auto &[user, password] : {std::pair("cajero1", "caja1"), {"cajero3", "caja3"}}) {
+        station.inDialog(
+            station.login(), [&] { station.window().openEntry("J1"); },
+            [&] {
+                station.typeUser(user, password);
+                EXPECT_TRUE(station.login().isVisible());
+                press(Qt::Key_Escape);
+            });
+        EXPECT_FALSE(station.stillOpen);
+        EXPECT_EQ(seen(), before) << user;
+        EXPECT_TRUE(station.window().isEnabled());
+    }
+    // What the refused cashier knows is not the administrator's password.
+    station.inDialog(
+        station.login(), [&] { station.window().openEntry("J1"); },
+        [&] {
+            typeText("admin");
+            auto *dialog = child<QDialog>(&station.window(), "FRMPass");
+            station.inDialog(
+                *dialog, [&] { child<QPushButton>(&station.login(), "BitBtn4")->click(); },
+                [&] {
+                    typeText("caja3");
+                    press(Qt::Key_Return);
+                    typeText("admin");
+                    press(Qt::Key_Return);
+                    EXPECT_TRUE(child<QLineEdit>(dialog, "Edit2")->hasFocus());
+                });
+        });
 }
 
 TEST(Login, FinanceIsDownForCashiersOnly) {
