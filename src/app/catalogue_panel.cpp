@@ -24,7 +24,7 @@ constexpr int kSmallRows = 3;
 CataloguePanel::CataloguePanel(Context &context, QWidget *parent, const QString &name)
     : QWidget(parent), context_(context) {
     setObjectName(name);
-    connect(qApp, &QApplication::focusChanged, this, &CataloguePanel::shareLetters);
+    connectGuarded(qApp, &QApplication::focusChanged, this, &CataloguePanel::shareLetters);
 }
 
 CataloguePanel::~CataloguePanel() {

@@ -1,5 +1,6 @@
 #include "shell/backdrop.h"
 
+#include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
 #include "toolkit/forms/picture_file.h"
 
@@ -30,7 +31,7 @@ Backdrop::Backdrop(QWidget *parent)
     setFocusPolicy(Qt::NoFocus);
     rest_.setSingleShot(true);
     rest_.setInterval(kRest);
-    connect(&rest_, &QTimer::timeout, this, [this] { readPicture(); });
+    connectGuarded(&rest_, &QTimer::timeout, this, [this] { readPicture(); });
 }
 
 void Backdrop::setPicture(const QString &file) {

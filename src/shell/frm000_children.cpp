@@ -89,10 +89,10 @@ void FRM000::openScreen(const ScreenMaker &maker) {
     window->setWindowIcon(windowIcon());
     child_ = window;
     connectGuarded(screen, &Screen::closeRequested, window, [window] { window->close(); });
-    connect(screen, &QObject::destroyed, window, &QObject::deleteLater);
-    // Queued: while a widget tells its destruction, a guarded pointer to it still stands.
-    connect(
-        window, &QObject::destroyed, sideBar_, [this] { childGone(); }, Qt::QueuedConnection);
+    connectGuarded(screen, &QObject::destroyed, window, &QObject::deleteLater);
+    // Later: while a widget tells its destruction, a guarded pointer to it still stands.
+    connectGuarded(window, &QObject::destroyed, sideBar_,
+                   [this] { QTimer::singleShot(0, sideBar_, guarded([this] { childGone(); })); });
     place(window);
     shareMnemonics(screen);
     // A menu gives the focus back to where it was, which may be nowhere.

@@ -133,9 +133,9 @@ void FRM000::buildToolBar() {
         QAction *item = action(target);
         button->setToolTip(item->text());
         const auto follow = [button, item] { button->setEnabled(item->isEnabled()); };
-        connect(item, &QAction::changed, button, follow);
+        connectGuarded(item, &QAction::changed, button, follow);
         follow();
-        connect(button, &QAction::triggered, item, &QAction::trigger);
+        connectGuarded(button, &QAction::triggered, item, &QAction::trigger);
         buttons_.insert(entry.number, button);
         if (entry.separatorAfter > 0) {
             QAction *spacer = toolBar_->addSeparator();
@@ -293,7 +293,7 @@ void FRM000::showHelp() {
     if (help == nullptr) {
         help = new HelpWindow(host);
         if (dialog != nullptr) {
-            connect(dialog, &QDialog::finished, help, &QWidget::close);
+            connectGuarded(dialog, &QDialog::finished, help, &QWidget::close);
         }
     }
     const QWidget *screen = dialog;

@@ -35,12 +35,12 @@ form::Item scrolled(const QString &name, const form::Item &content) {
             area->setFocusPolicy(Qt::NoFocus);
             area->viewport()->setAutoFillBackground(false);
             sheet->setAutoFillBackground(false);
-            QObject::connect(qApp, &QApplication::focusChanged, area,
-                             [area](QWidget *, QWidget *now) {
-                                 if (now != nullptr && area->widget()->isAncestorOf(now)) {
-                                     area->ensureWidgetVisible(now, 0, 24);
-                                 }
-                             });
+            connectGuarded(qApp, &QApplication::focusChanged, area,
+                           [area](QWidget *, QWidget *now) {
+                               if (now != nullptr && area->widget()->isAncestorOf(now)) {
+                                   area->ensureWidgetVisible(now, 0, 24);
+                               }
+                           });
         })
         .grow();
 }

@@ -40,9 +40,9 @@ HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent) {
         }));
     browser_->setOpenExternalLinks(false);
     connectGuarded(back, &QPushButton::clicked, browser_, [this] { browser_->backward(); });
-    connect(browser_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
-    connect(browser_, &QTextBrowser::sourceChanged, this,
-            [this] { setWindowTitle(browser_->documentTitle() + u" - Ayuda de KALDO"_s); });
+    connectGuarded(browser_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+    connectGuarded(browser_, &QTextBrowser::sourceChanged, this,
+                   [this] { setWindowTitle(browser_->documentTitle() + u" - Ayuda de KALDO"_s); });
     resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 36);
 }
 

@@ -116,6 +116,7 @@ QStringList faultsOf(const QString &path, const QString &text, const QDir &src) 
     static const QRegularExpression database(QStringLiteral("\\bQSql\\w+|\\bibase\\.h\\b"));
     static const QRegularExpression domain(
         QStringLiteral("\\b(FRM\\w+|DM[A-Z][a-z]\\w+|KD[A-Z]{3}\\w+)"));
+    static const QRegularExpression bareConnect(QStringLiteral("\\bconnect\\s*\\("));
 
     const std::optional<Room> room = roomOf(path);
     if (!room)
@@ -144,6 +145,9 @@ QStringList faultsOf(const QString &path, const QString &text, const QDir &src) 
         forbid(sql, source.literals, QStringLiteral("SQL belongs in data"));
         forbid(database, source.code, QStringLiteral("the database belongs in data"));
     }
+    constexpr int screens = 2;
+    if (room->level >= screens)
+        forbid(bareConnect, source.code, QStringLiteral("handlers stand in guards"));
     if (toolkit)
         forbid(domain, text, QStringLiteral("the toolkit knows no screen, module or routine"));
     return faults;
@@ -196,6 +200,8 @@ TEST(IncludeLaw, CatchesEachKindOfFault) {
         {"shell/a.cpp", "QSqlQuery query;", "database"},
         {"shell/a.cpp", "QChar quote(u'\"'); int n = 1'000; auto t = \"update x set y = 1\";",
          "SQL"},
+        {"people/a.cpp", "connectGuarded(a, &A::b, this, c);", ""},
+        {"people/a.cpp", "QObject::connect(a, &A::b, this, c);", "guards"},
         {"toolkit/report/a.h", "// as FRM401 prints it\n", "toolkit knows"},
         {"warehouse/a.h", "", "no room"},
     };

@@ -180,8 +180,8 @@ void SystemPrinting::preview(const Document &document, const QString &title, QWi
     const auto told = [this](QWidget *window, const std::function<QString()> &action) {
         try {
             return action();
-        } catch (const PrintError &error) {
-            host_.failure(window, error.text());
+        } catch (const std::exception &failure) {
+            host_.failure(window, QString::fromUtf8(failure.what()));
             return QString();
         }
     };
