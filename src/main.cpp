@@ -1,5 +1,6 @@
 #include "shell/program.h"
 #include "shell/version.h"
+#include "toolkit/core/log.h"
 #include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
 
@@ -119,6 +120,8 @@ int main(int argc, char **argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("kaldo"));
     QApplication::setWindowIcon(kaldo::iconNamed(QStringLiteral("logo")));
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Mexico));
+    const kaldo::FileLog log(
+        kaldo::Installation(*root).map(QStringLiteral("C:\\KALDO\\Log\\kaldo.log")));
     kaldo::ProgramSettings settings;
     settings.root = *root;
     kaldo::Program program(settings);

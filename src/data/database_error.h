@@ -5,6 +5,8 @@
 
 #include <stdexcept>
 
+#include "toolkit/core/log.h"
+
 namespace kaldo {
 
 /// What went wrong, as far as screens and tests tell failures apart.
@@ -24,7 +26,7 @@ enum class DatabaseFailure {
 };
 
 /// The one failure of the data layer: what the engine said, where, and a text for the user.
-class DatabaseError : public std::runtime_error {
+class DatabaseError : public std::runtime_error, public LoggedFailure {
 public:
     struct Details {
         DatabaseFailure failure = DatabaseFailure::Other;
@@ -42,6 +44,8 @@ public:
     const QString &message() const { return message_; }
     const Details &details() const { return details_; }
     DatabaseFailure failure() const { return details_.failure; }
+
+    QString logText() const override;
 
 private:
     QString message_;

@@ -2,6 +2,7 @@
 
 #include "payments/clinical_history.h"
 #include "payments/receipt_printer.h"
+#include "toolkit/core/log.h"
 
 namespace kaldo {
 
@@ -20,8 +21,11 @@ bool Registration::registrar(const NoteDraft &draft, const Payment &payment) {
             context_.frame.refreshDeskFigures();
         }
         return true;
-    } catch (const std::exception &) {
+    } catch (const std::exception &failure) {
         // Whatever failed, the cashier's way out is the same one.
+        logSwallowed(
+            QStringLiteral("nota %1-%2").arg(context_.session.NumCaja).arg(draft.notaActual),
+            failure);
         context_.messages.warning(
             QStringLiteral("Ocurrió un error al tratar de registrar la información. Verifique "
                            "Recibos Incompletos."),

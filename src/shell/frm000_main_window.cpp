@@ -275,9 +275,8 @@ void FRM000::whenRunning(std::function<void()> call) {
     }
 }
 
-void FRM000::tellFailure(const std::exception &failure) {
-    const std::runtime_error copy(failure.what());
-    whenRunning([copy] { Application::current()->reportFailure(copy); });
+void FRM000::tellFailure(const std::exception_ptr &failure) {
+    whenRunning([failure] { runGuarded([&] { std::rethrow_exception(failure); }); });
 }
 
 void FRM000::setRunning() {

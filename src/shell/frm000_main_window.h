@@ -79,7 +79,7 @@ public:
     /// Runs a call at once, or, while the run loop hasn't begun, in tellWhatWaits().
     void whenRunning(std::function<void()> call);
     /// Shows a failure that is no reason to stop, at the time of whenRunning().
-    void tellFailure(const std::exception &failure);
+    void tellFailure(const std::exception_ptr &failure);
     /// The run loop has begun.
     void setRunning();
     /// Runs what has waited: once the splash no longer covers the boxes.

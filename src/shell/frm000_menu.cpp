@@ -224,9 +224,9 @@ void FRM000::EnableButtons() {
     if (granted.caption) {
         try {
             MainSkin();
-        } catch (const std::exception &failure) {
+        } catch (const std::exception &) {
             // Told, but no reason to keep anybody out.
-            tellFailure(failure);
+            tellFailure(std::current_exception());
         }
     }
     if (context_.session.AnioActual == 0) {

@@ -104,8 +104,8 @@ void FRMAcceso::formCreate() {
     ensureBuilt();
     try {
         BitBtn1Click();
-    } catch (const std::exception &failure) {
-        main_.tellFailure(failure);
+    } catch (const std::exception &) {
+        main_.tellFailure(std::current_exception());
     }
     takeBack();
 }

@@ -5,6 +5,7 @@
 #include "cashdesk/frm801_incomplete_receipts.h"
 #include "data/database_error.h"
 #include "data/module_lookups.h"
+#include "data/start_failure.h"
 #include "payments/frm401_3_payment_form.h"
 #include "payments/frm401_payment_note.h"
 #include "people/frm_alumnos_student_choice.h"
@@ -16,6 +17,7 @@
 #include "shell/frm_pass_password.h"
 #include "shell/frm_version_about.h"
 #include "shell/main_skin.h"
+#include "toolkit/core/log.h"
 #include "toolkit/forms/application.h"
 
 namespace kaldo {
@@ -26,6 +28,7 @@ report::PrintingHost printingHost(FRM000 *window, Messages *messages) {
     report::PrintingHost host;
     host.notice = [window](const QString &text) { window->showNotice(text); };
     host.failure = [messages](QWidget *, const QString &text) {
+        logSwallowed(QStringLiteral("impresión"), std::runtime_error(text.toStdString()));
         messages->error(text, QStringLiteral("Impresión"));
     };
     return host;
@@ -163,10 +166,22 @@ DMConexion &Program::conexion() {
 }
 
 bool Program::start() {
+    const QString iniPath = parts_->ini.path();
+    if (const QString problem = iniProblem(iniPath); !problem.isEmpty()) {
+        qCWarning(logStart).noquote() << problem;
+    }
     runGuarded([this] { parts_->window->formCreate(); });
-    createConnections();
+    const bool failed = !createConnections();
     if (!parts_->conexion.FBOdonto.isOpen()) {
+        if (!failed) {
+            qCWarning(logStart).noquote()
+                << nothingNamed(parts_->context.session.ClienteSql, iniPath);
+        }
         return false;
+    }
+    for (const QString &base : parts_->conexion.outside()) {
+        qCWarning(logStart).noquote()
+            << "Base de datos fuera de la carpeta de esta instalación:" << base;
     }
     createControlPanel();
     parts_->window->showMaximized();
@@ -187,12 +202,18 @@ int Program::run() {
     return QCoreApplication::exec();
 }
 
-void Program::createConnections() {
+bool Program::createConnections() {
     try {
         parts_->conexion.open();
-    } catch (const std::exception &) {
-        parts_->messages.error(QStringLiteral(
-            "Error en conexión, algún servicio no está disponible, inténtelo más tarde."));
+        return true;
+    } catch (const std::exception &failure) {
+        const QString why = startFailure(failure, parts_->conexion);
+        qCWarning(logStart).noquote() << why;
+        logTo(logStart(), failure);
+        parts_->messages.error(QStringLiteral("Error en conexión, algún servicio no está "
+                                              "disponible, inténtelo más tarde.\n\n") +
+                               why);
+        return false;
     }
 }
 
@@ -222,8 +243,8 @@ void Program::createResidents() {
     parts.splash = std::make_unique<FRMInicio>(window.splashPicture());
     try {
         parts.splash->formCreate(parts.ini);
-    } catch (const std::exception &failure) {
-        window.tellFailure(failure);  // the splash would cover a box
+    } catch (const std::exception &) {
+        window.tellFailure(std::current_exception());  // the splash would cover a box
     }
     parts.splash->show();
     parts.cierre = std::make_unique<FRMClose>(context, parts.countDown);

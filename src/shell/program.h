@@ -59,7 +59,8 @@ public:
 private:
     struct Parts;
 
-    void createConnections();
+    /// False, and told, where one of them failed.
+    bool createConnections();
     void createControlPanel();
     void createResidents();
     void registerScreens();

@@ -1,6 +1,7 @@
 #include "shell/update_check.h"
 
 #include "shell/version.h"
+#include "toolkit/core/log.h"
 #include "toolkit/core/text.h"
 
 #include <QCoreApplication>
@@ -60,8 +61,9 @@ bool UpdateCheck::ConectarFTP() {
     try {
         fetchPublishedVersion();
         return true;
-    } catch (const std::exception &) {
+    } catch (const std::exception &failure) {
         // A station without a way to the server works on with the version that is stored.
+        logSwallowed(QStringLiteral("búsqueda de una versión nueva"), failure);
         return false;
     }
 }

@@ -1,8 +1,11 @@
 #include "tests/payments/desk.h"
 
+#include "toolkit/core/log.h"
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QProcess>
 
 #include <unistd.h>
@@ -171,6 +174,24 @@ TEST_F(RegistrationFaults, TheOrderIsSettled) {
               "registra_pago_odontologia_p, sp_registrametodopago, spinsdetalle, "
               "registra_historicodontologia_p, spinsdetalle, registra_historicodontologia_p, "
               "inserta_vw_recibopago, registraiva, Ticket, DatosCaja1 (update)");
+}
+
+TEST_F(RegistrationFaults, TheLogSaysWhyANoteStayedHalfWritten) {
+    Desk desk(files.root());
+    desk.local.Recibos.open();
+    const NoteDraft draft = admissionNote(desk);
+    EXPECT_TRUE(desk.registers(draft, paid(draft)));
+    const QString path = files.root() + "/Log/kaldo.log";
+    const FileLog log(path);
+    EXPECT_TRUE(desk.fails(draft, paid(draft))) << "its number is taken";
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString told = QString::fromUtf8(file.readAll());
+    const QString why = QStringLiteral(
+                            "kaldo.told: nota 1-%1: FBOdonto registra_pago_odontologia_p "
+                            "(SQL -803; 335544665")
+                            .arg(draft.notaActual);
+    EXPECT_TRUE(told.contains(why)) << qPrintable(told);
 }
 
 constexpr char kRoot[] = "KALDO_FAULT_ROOT";

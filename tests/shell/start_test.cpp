@@ -3,6 +3,7 @@
 #include "shell/frm_inicio_splash.h"
 #include "shell/main_skin.h"
 #include "shell/version.h"
+#include "toolkit/core/log.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,7 +16,7 @@ namespace kaldo::test {
 namespace {
 
 const QString kNoService =
-    QStringLiteral("Error en conexión, algún servicio no está disponible, inténtelo más tarde.");
+    QStringLiteral("Error en conexión, algún servicio no está disponible, inténtelo más tarde.*");
 const QString kNoDate = QStringLiteral("'31/09/2024' no es una fecha válida.");
 
 void registerPath(const TestInstallation &installation, const QString &base, const QString &path) {
@@ -30,6 +31,15 @@ void overwrite(const QString &path, const QByteArray &bytes) {
     file.write(bytes);
 }
 
+QString logPath(const TestInstallation &installation) {
+    return installation.root() + "/Log/kaldo.log";
+}
+
+QString readLog(const TestInstallation &installation) {
+    QFile file(logPath(installation));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 QColor selectedRow() {
     QTableView table;
     table.ensurePolished();
@@ -42,32 +52,53 @@ TEST(Start, WithoutItsDatabasesTheRunEnds) {
     struct Case {
         const char *what;
         std::function<void(const TestInstallation &)> spoil;
+        QString told;
     };
+    const QString missing = QStringLiteral("el archivo no existe");
+    const QString damaged = QStringLiteral("está dañado o no es una base de datos");
     const QList<Case> cases = {
         {"local missing",
-         [](const TestInstallation &at) { QFile::remove(at.database("BD_LOCAL.GDB")); }},
+         [](const TestInstallation &at) { QFile::remove(at.database("BD_LOCAL.GDB")); },
+         QStringLiteral("local de esta estación (%1/DataBase/BD_LOCAL.GDB): ") + missing},
         {"local damaged",
          [](const TestInstallation &at) {
              overwrite(at.database("BD_LOCAL.GDB"), QByteArray(20000, 'x'));
-         }},
+         },
+         damaged},
         {"clinic missing",
-         [](const TestInstallation &at) { QFile::remove(at.database("BD_ODONTOLOGIA.GDB")); }},
+         [](const TestInstallation &at) { QFile::remove(at.database("BD_ODONTOLOGIA.GDB")); },
+         QStringLiteral("de la clínica (%1/DataBase/BD_ODONTOLOGIA.GDB): ") + missing},
         {"clinic damaged",
          [](const TestInstallation &at) {
              overwrite(at.database("BD_ODONTOLOGIA.GDB"), QByteArray(20000, 'x'));
-         }},
+         },
+         damaged},
         {"wrong path",
          [](const TestInstallation &at) {
              registerPath(at, "Odontologia", at.root() + "/DataBase/OTRA.GDB");
-         }},
+         },
+         QStringLiteral("(%1/DataBase/OTRA.GDB): ") + missing},
+        {"no server",
+         [](const TestInstallation &at) {
+             registerPath(at, "Odontologia", "127.0.0.1/1:/datos/clinica.gdb");
+         },
+         QStringLiteral("(127.0.0.1/1:/datos/clinica.gdb): no se puede llegar al servidor "
+                        "127.0.0.1/1.")},
     };
     for (const Case &one : cases) {
         SCOPED_TRACE(one.what);
         ShellStation station;
         one.spoil(station.installation);
         station.messages.expectError(kNoService);
+        const FileLog log(logPath(station.installation));
         EXPECT_FALSE(station.start());
         EXPECT_FALSE(station.window().isVisible());
+        const QString told =
+            one.told.contains("%1") ? one.told.arg(station.installation.root()) : one.told;
+        EXPECT_TRUE(station.messages.shown().value(0).contains(told))
+            << qPrintable(station.messages.shown().value(0));
+        EXPECT_TRUE(readLog(station.installation).contains(told))
+            << qPrintable(readLog(station.installation));
     }
 }
 
@@ -95,7 +126,13 @@ TEST(Start, EndsSilentlyWhereNothingNamesTheClinic) {
         SCOPED_TRACE(&spoil - cases.data());
         ShellStation station;
         spoil(station.installation);
+        const FileLog log(logPath(station.installation));
         EXPECT_FALSE(station.start());
+        const QString told = readLog(station.installation);
+        EXPECT_TRUE(told.contains("kaldo.start: "));
+        EXPECT_EQ(told.contains("archivo de configuración " + station.installation.iniPath()),
+                  QStringList({"3", "4"}).contains(QString::number(&spoil - cases.data())))
+            << qPrintable(told);
     }
 }
 

@@ -8,9 +8,11 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <stdexcept>
 
 #include "toolkit/core/ini_file.h"
 #include "toolkit/core/installation.h"
+#include "toolkit/core/log.h"
 #include "toolkit/core/money.h"
 #include "toolkit/core/text.h"
 
@@ -153,8 +155,6 @@ TEST_F(IniFileTest, MissingLatinAndBinaryFilesAreReadAsFarAsTheyMakeSense) {
     EXPECT_EQ(IniFile(write(binary)).value("Sql", "cliente"), "");
 }
 
-TEST_F(IniFileTest, ANumberThatIsNoneFailsInSpanish) {
-    const IniFile ini(write("[Admisiones]\ndias=\n[Impresiones]\nduplicado=5\n"));
 TEST_F(IniFileTest, WhatEditorsOfAllKindsLeaveIsReadAndKept) {
     // One line of another code page beside those of this one; Windows' line ends; no last one.
     const QString path = write(
@@ -183,6 +183,8 @@ TEST_F(IniFileTest, WhatEditorsOfAllKindsLeaveIsReadAndKept) {
     }
 }
 
+TEST_F(IniFileTest, ANumberThatIsNoneFailsInSpanish) {
+    const IniFile ini(write("[Admisiones]\ndias=\n[Impresiones]\nduplicado=5\n"));
     EXPECT_EQ(ini.integer("Impresiones", "duplicado"), 5);
     for (const char *section : {"Admisiones", "Nada"}) {
         try {
@@ -198,6 +200,55 @@ TEST_F(IniFileTest, AFileThatCannotBeWrittenKeepsItsValue) {
     IniFile ini("/proc/kaldo.ini");
     EXPECT_THROW(ini.setValue("A", "b", "c"), std::runtime_error);
     EXPECT_EQ(ini.value("A", "b"), "");
+}
+
+class FileLogTest : public ::testing::Test {
+protected:
+    QStringList lines(const QString &name) {
+        QFile file(folder.filePath("Log/" + name));
+        return file.open(QIODevice::ReadOnly)
+                   ? QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)
+                   : QStringList();
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(FileLogTest, FailuresGoToAFileThatIsCountedAndRotated) {
+    {
+        const FileLog log(folder.filePath("Log/kaldo.log"));
+        logSwallowed("nota 1-4711", std::runtime_error("El valor «ANA» no cabe\nen \"nombre\""));
+        for (int at = 0; at < 3; ++at) {
+            qWarning("otra vez");
+        }
+        qInfo("no es una falla");
+    }
+    const QStringList first = lines("kaldo.log");
+    ASSERT_EQ(first.size(), 3);
+    EXPECT_TRUE(first[0].endsWith(
+        QStringLiteral("] warning kaldo.told: nota 1-4711: El valor … no cabe | en \"nombre\"")))
+        << qPrintable(first[0]);
+    EXPECT_TRUE(first[1].endsWith("warning default: otra vez"));
+    EXPECT_TRUE(first[2].endsWith(QStringLiteral("se repitió 2 veces."))) << qPrintable(first[2]);
+    for (int at = 0; at < 8; ++at) {
+        const FileLog log(folder.filePath("Log/kaldo.log"));
+        EXPECT_TRUE(QFile::resize(folder.filePath("Log/kaldo.log"), 2000000));
+        qWarning("vez %d", at);
+    }
+    EXPECT_EQ(lines("kaldo.log").size(), 1);
+    EXPECT_TRUE(lines("kaldo.1.log").last().endsWith("vez 6"));
+    EXPECT_EQ(QDir(folder.filePath("Log")).entryList(QDir::Files).size(), 6);
+    // A folder of the installation that isn't there is not made for it.
+    const FileLog nowhere(folder.filePath("no/Log/kaldo.log"));
+    qWarning("se pierde");
+    EXPECT_FALSE(QDir(folder.filePath("no")).exists());
+}
+
+TEST(LogTest, ValuesOfPeopleStayOut) {
+    EXPECT_EQ(withoutValues("conversion error from string \"PEREZ\" in \"PK_PAGOS\""),
+              QStringLiteral("conversion error from string … in \"PK_PAGOS\""));
+    EXPECT_EQ(withoutValues("key value is (\"NOTA\" = 4711, \"NOMBRE\" = 'O''HARA')"),
+              QStringLiteral("key value is (\"NOTA\" = 4711, \"NOMBRE\" = …)"));
 }
 
 TEST(InstallationTest, PathsOfTheInstallationAreFoundWithoutRegardToCase) {

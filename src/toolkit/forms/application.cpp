@@ -1,5 +1,7 @@
 #include "toolkit/forms/application.h"
 
+#include "toolkit/core/log.h"
+
 #include <QLibraryInfo>
 #include <QScopeGuard>
 #include <QTranslator>
@@ -41,15 +43,15 @@ void Application::setColumnMemory(ColumnMemory memory) {
 }
 
 void Application::reportFailure(const std::exception &failure) noexcept {
+    logTo(logFailure(), failure);
     if (!handler_) {
-        qWarning("%s", failure.what());
         return;
     }
     try {
         const FailureHandler handler = handler_;
         gate_.pass([&] { handler(failure); });
     } catch (const std::exception &second) {
-        qWarning("%s (while showing: %s)", second.what(), failure.what());
+        logTo(logFailure(), second, QStringLiteral("al mostrar la anterior"));
     }
 }
 
@@ -75,7 +77,7 @@ bool runGuarded(const std::function<void()> &call) noexcept {
         if (Application *application = Application::current()) {
             application->reportFailure(failure);
         } else {
-            qWarning("%s", failure.what());
+            logTo(logFailure(), failure);
         }
     };
     try {
