@@ -60,6 +60,11 @@ QString remoteReason(const DatabaseError &error, const QString &server) {
 
 QString fileReason(const DatabaseError &error, const QString &database) {
     const QFileInfo file(database);
+    if (!file.exists() && error.details().connection == QLatin1String("FBLocal")) {
+        return QStringLiteral(
+            "el archivo no existe. Devuélvalo a su lugar o restaure un respaldo; si la "
+            "carpeta de la instalación es otra, inicie KALDO con ella.");
+    }
     if (!file.exists()) {
         return QStringLiteral(
             "el archivo no existe. Devuélvalo a su lugar, restaure un respaldo o corrija la ruta "

@@ -236,7 +236,7 @@ TEST_F(FileLogTest, FailuresGoToAFileThatIsCountedAndRotated) {
         qWarning("vez %d", at);
     }
     EXPECT_EQ(lines("kaldo.log").size(), 1);
-    EXPECT_TRUE(lines("kaldo.1.log").last().endsWith("vez 6"));
+    EXPECT_TRUE(lines("kaldo.1.log").first().endsWith("vez 6"));
     EXPECT_EQ(QDir(folder.filePath("Log")).entryList(QDir::Files).size(), 6);
     // A folder of the installation that isn't there is not made for it.
     const FileLog nowhere(folder.filePath("no/Log/kaldo.log"));
