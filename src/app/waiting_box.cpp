@@ -1,5 +1,6 @@
 #include "app/waiting_box.h"
 
+#include "toolkit/forms/application.h"
 #include "toolkit/forms/button.h"
 #include "toolkit/forms/focus.h"
 #include "toolkit/forms/focus_keeper.h"
@@ -63,7 +64,7 @@ public:
         button->setObjectName(QStringLiteral("giveUpButton"));
         button->setText(QStringLiteral("&Dejar de esperar"));
         rows->addWidget(button, 0, Qt::AlignRight);
-        connect(button, &QPushButton::clicked, this, [this] { givenUp_ = true; });
+        connectGuarded(button, &QPushButton::clicked, this, [this] { givenUp_ = true; });
         // The button waits for a Tab: a stroke that was meant for the screen must not press it.
         setFocus();
         setAccessibleName(windowTitle());

@@ -16,19 +16,6 @@ namespace kaldo {
 
 namespace {
 
-QString titleOf(const QString &connection) {
-    if (connection == QLatin1String("FBLocal")) {
-        return QStringLiteral("local de esta estación");
-    }
-    if (connection == QLatin1String("FBOdonto") || connection == QLatin1String("InfxOdonto")) {
-        return QStringLiteral("de la clínica");
-    }
-    if (connection == QLatin1String("FBFinanzas") || connection == QLatin1String("InfxFinanzas")) {
-        return QStringLiteral("de finanzas");
-    }
-    return connection;
-}
-
 /// The server of "server:path"; empty for a path of this machine, also for one with a drive.
 QString serverOf(const QString &database) {
     static const QRegularExpression remote(QStringLiteral("^([^/\\\\:]{2,}(?:/[^/\\\\:]+)?):"));
@@ -42,7 +29,9 @@ bool has(const DatabaseError &error, std::initializer_list<ISC_STATUS> codes) {
 }
 
 QString remoteReason(const DatabaseError &error, const QString &server) {
-    if (has(error, {isc_network_error, isc_net_connect_err, isc_net_read_err, isc_net_write_err,
+    // Without a code: nobody answered in time.
+    if (error.details().engineCodes.isEmpty() ||
+        has(error, {isc_network_error, isc_net_connect_err, isc_net_read_err, isc_net_write_err,
                     isc_unavailable})) {
         return QStringLiteral(
                    "no se puede llegar al servidor %1. Revise que esté encendido y que la "
@@ -106,9 +95,10 @@ QString attachFailure(const DatabaseError &error, const QString &database) {
     if (reason.isEmpty()) {
         reason = error.details().engineMessage;
     }
-    return QStringLiteral("La base de datos %1 (%2): %3")
-        .arg(titleOf(error.details().connection),
-             server.isEmpty() ? QDir::toNativeSeparators(database) : database, reason);
+    QString name = databaseInWords(error.details().connection);
+    name.front() = name.front().toUpper();
+    return QStringLiteral("%1 (%2): %3")
+        .arg(name, server.isEmpty() ? QDir::toNativeSeparators(database) : database, reason);
 }
 
 QString startFailure(const std::exception &failure, DMConexion &conexion) {

@@ -59,7 +59,7 @@ TEST(Start, WithoutItsDatabasesTheRunEnds) {
     const QList<Case> cases = {
         {"local missing",
          [](const TestInstallation &at) { QFile::remove(at.database("BD_LOCAL.GDB")); },
-         QStringLiteral("local de esta estación (%1/DataBase/BD_LOCAL.GDB): ") + missing},
+         QStringLiteral("de la estación (%1/DataBase/BD_LOCAL.GDB): ") + missing},
         {"local damaged",
          [](const TestInstallation &at) {
              overwrite(at.database("BD_LOCAL.GDB"), QByteArray(20000, 'x'));
