@@ -9,12 +9,14 @@
 namespace kaldo {
 
 /// A plain ini file: sections in square brackets, lines of key and value. Sections and keys are
-/// compared without regard to case; backslashes, commas and quotes stand as they are; lines that
-/// are neither (comments, blanks) survive a write untouched.
+/// compared without regard to case; backslashes, commas and quotes stand as they are, but for the
+/// quotes around a whole value, which are none of it; a comment may stand behind a section's
+/// bracket; lines that are neither (comments, blanks) survive a write untouched.
 ///
-/// A file that is missing or can't be read is an empty one. Text that is no UTF-8 is taken as
-/// Latin-1, a byte-order mark is passed over, and a binary file reads as far as its lines make
-/// sense. A write goes straight to the file, replacing it whole or not at all.
+/// A file that is missing or can't be read is an empty one. A line that is no UTF-8 is taken as
+/// Latin-1, UTF-16 is understood, a byte-order mark is passed over, and a binary file reads as far
+/// as its lines make sense. A write goes straight to the file, in UTF-8 and with the line ends of
+/// its first line, replacing it whole or not at all.
 class IniFile {
 public:
     explicit IniFile(QString path);
