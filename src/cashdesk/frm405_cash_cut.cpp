@@ -99,7 +99,8 @@ void FRM405::formCreate() {
     NumeroCaja_->setVisible(false);
     Turno_->setVisible(false);
     moveFocus(FechaCorte_);
-    context().caja.DatosCaja.open({{QStringLiteral("campus"), session().Campus.text()}});
+    context().caja.DatosCaja.open(
+        {{QStringLiteral("campus"), context().odonto.campusDelUsuario(session().Usuario.text())}});
     if (isAdministrator()) {
         NumeroCaja_->setVisible(true);
         Turno_->setVisible(true);

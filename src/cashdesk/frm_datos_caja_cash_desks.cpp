@@ -2,6 +2,7 @@
 
 #include "cashdesk/cash_desks_report.h"
 #include "data/catalogue_texts.h"
+#include "toolkit/core/text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,10 +43,14 @@ FRMDatosCaja::FRMDatosCaja(Context &context) : Screen(context, u"FRMDatosCaja"_s
 CatalogueRules FRMDatosCaja::desks() {
     CatalogueRules rules;
     rules.query = &context().caja.DatosCaja;
-    rules.parameters = [this] { return Parameters{{u"campus"_s, session().Campus.text()}}; };
+    rules.parameters = [this] {
+        return Parameters{
+            {u"campus"_s, context().odonto.campusDelUsuario(session().Usuario.text())}};
+    };
     rules.keys = {u"num_caja"_s};
     rules.columns = deskColumns();
     rules.fixedOnEdit = {u"NUM_CAJA"_s};
+    rules.toldBy = {u"NUM_CAJA"_s, u"NOMBRE"_s};
     rules.enter = {
         {u"NUM_CAJA"_s, [this] { return enterCaja(); }},
         {u"NOMBRE"_s, [this] { return enterNombre(); }},
@@ -126,7 +131,8 @@ void FRMDatosCaja::activated() {
 
 EnterResult FRMDatosCaja::enterCaja() {
     const QString numCaja = panel_->query().text(u"num_caja"_s);
-    if (numCaja.toInt() > kMostInSixteenBits) {
+    const bool none = !numCaja.isEmpty() && numCaja.toInt() < 1;
+    if (none || numCaja.toInt() > kMostInSixteenBits) {
         return panel_->refuseWarning(
             u"num_caja"_s, u"El número de caja debe estar entre 1 y %1."_s.arg(kMostInSixteenBits));
     }
@@ -160,9 +166,16 @@ bool FRMDatosCaja::isComplete() {
 
 bool FRMDatosCaja::previewReport() {
     panel_->refresh();
+    // The head of the cut, not that of the catalogues.
+    CatalogueHeading heading = catalogueHeading(context());
+    heading.institucion = options().Clinica;
+    heading.clinica = options().Facultad;
+    if (options().TitulosMayusculas) {
+        heading.institucion = Mayusculas(heading.institucion);
+        heading.clinica = Mayusculas(heading.clinica);
+    }
     previewCatalogue(context(), this, this,
-                     layoutCashDesks(catalogueHeading(context()), session().Ciudad,
-                                     cashDeskRows(panel_->query())),
+                     layoutCashDesks(heading, session().Ciudad, cashDeskRows(panel_->query())),
                      windowTitle());
     return true;
 }

@@ -157,6 +157,15 @@ RuntimeText usuarioText(const QString &usuario) {
                       "where usuario like :usuarioPrefijo", "usuario", usuario);
 }
 
+RuntimeText otroAdministradorText(const QString &origen, const QString &usuario) {
+    return RuntimeText()
+        .line(QStringLiteral("select usuario from controlusuarios"))
+        .line(QStringLiteral("where origen=:origen and acceso='AM'"))
+        .line(QStringLiteral("and usuario<>:usuario"))
+        .bind(QStringLiteral("origen"), origen)
+        .bind(QStringLiteral("usuario"), usuario);
+}
+
 RuntimeText cajaText(const QVariant &numCaja) {
     return prefixTest("select num_caja from datoscaja", "where num_caja starting with :caja",
                       "where num_caja like :cajaPrefijo", "caja", numCaja);

@@ -40,6 +40,8 @@ RuntimeText bancoProgramaText(const QVariant &bancoid, const QVariant &programai
 RuntimeText tipoCambioText(double tipoCam);
 
 RuntimeText usuarioText(const QString &usuario);
+/// An administrator of the campus other than this user.
+RuntimeText otroAdministradorText(const QString &origen, const QString &usuario);
 RuntimeText cajaText(const QVariant &numCaja);
 RuntimeText cajaNombreText(const QString &nombre);
 

@@ -43,11 +43,13 @@ DMFinanzas::DMFinanzas(DMConexion &connections)
       BancosDL({"BancosDL", "select * from cg_banco where tipomoneda=2"}),
       BancoPrograma({"BancoPrograma", "select * from cg_bancoporprograma where bancoid=:bancoid",
                      "cg_bancoporprograma", "bancoid,programaid"}),
+      BancosTodos({"BancosTodos", "select * from cg_banco"}),
+      BancoProgramasTodos({"BancoProgramasTodos", "select * from cg_bancoporprograma"}),
       inserta_vw_recibopago("inserta_vw_recibopago", "INSERTA_VW_RECIBOPAGO", "v_caja, v_nota"),
       BorrarPago("BorrarPago", "BORRARPAGO", "num_caja, nota_vta") {
     bindAll({&UsuarioID, &cg_usuario, &cgenero, &cgrupo, &crubro, &ccuenta, &csubcta, &csubsubcta,
              &Programas, &Programas1, &tipodeiva, &clasificacioniva, &Bancos, &BancosMN, &BancosDL,
-             &BancoPrograma});
+             &BancoPrograma, &BancosTodos, &BancoProgramasTodos});
     bindAll({&inserta_vw_recibopago, &BorrarPago});
 }
 

@@ -30,6 +30,9 @@ public:
     NamedQuery BancosMN;
     NamedQuery BancosDL;
     NamedQuery BancoPrograma;
+    // For the clinic's copy; the screen's own lists keep their cursors.
+    NamedQuery BancosTodos;
+    NamedQuery BancoProgramasTodos;
 
     Procedure inserta_vw_recibopago;
     Procedure BorrarPago;

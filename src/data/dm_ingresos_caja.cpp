@@ -27,6 +27,8 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
                          "(:bancoid, :programaid) matching (bancoid, programaid)"),
       BorraBancoProgramas("BorraBancoProgramas",
                           "delete from cg_bancoporprograma where bancoid=:bancoid"),
+      BancosCopia({"BancosCopia", "select * from cg_banco"}),
+      BancoProgramasCopia({"BancoProgramasCopia", "select * from cg_bancoporprograma"}),
       ListaPrecios({"ListaPrecios",
                     "SELECT * FROM  listaprecios Listaprecios  where tipo_prod=:tipo_prod order by "
                     "descr"}),
@@ -132,6 +134,8 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
       CompletaCorteBancario("CompletaCorteBancario", "KDCOMPLETACORTEBANCARIO",
                             "usr, caja, fecha") {
     bindAll({&DatosCaja,
+             &BancosCopia,
+             &BancoProgramasCopia,
              &DatosCaja1,
              &DatosCaja2,
              &DatosCajaUsuario,

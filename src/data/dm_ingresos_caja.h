@@ -26,6 +26,8 @@ public:
     Command BorraBanco;
     Command CopiaBancoPrograma;
     Command BorraBancoProgramas;
+    NamedQuery BancosCopia;
+    NamedQuery BancoProgramasCopia;
 
     // The note's lines and its payer
     NamedQuery ListaPrecios;

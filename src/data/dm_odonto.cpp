@@ -26,6 +26,7 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
       ControlUsuarios2({"ControlUsuarios2",
                         "select * from controlusuarios where  num_caja=:caja and turno=:turno and "
                         "acceso='CA'"}),
+      CampusUsuario({"CampusUsuario", "select campus from controlusuarios where usuario=:usr"}),
       Usuarios_Mant({"Usuarios_Mant", "select * from usuarios_m where usuario=:usuario",
                      "usuarios_m", "usuario"}),
       Usuarios_Mant1({"Usuarios_Mant1", "select * from usuarios_m where usuario=:usuario"}),
@@ -49,6 +50,7 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
       CtroAtencionF({"CtroAtencionF", "select * from ctroatencion"}),
       AreaVenta({"AreaVenta", "select * from areaventa where ciudad=:cd order by tipo_prod",
                  "areaventa", "tipo_prod"}),
+      AreaVenta1({"AreaVenta1", "select * from areaventa where tipo_prod=:tipo_prod"}),
       AreaVenta2({"AreaVenta2", "select * from areaventa where ciudad=:cd order by tipo_prod"}),
       AreaVenta3({"AreaVenta3", "select * from areaventa where ciudad=:cd order by tipo_prod",
                   "areaventa", "tipo_prod"}),
@@ -159,7 +161,7 @@ DMOdonto::DMOdonto(DMConexion &connections, const Session &session, const Option
              &Prestaciones1,   &ClasifServicios,  &ClasifServiciosR,  &Prestacionxserv,
              &LabExterno,      &Listaprecios,     &Listaprecios1,     &Listaprecios3,
              &UMedida,         &TipoForma,        &Metodopagocfdi,    &serviciosxctros,
-             &CargarExp,       &AdmisionNota});
+             &CargarExp,       &AdmisionNota,     &AreaVenta1,        &CampusUsuario});
     bindAll({&registra_admision_p, &registra_datosgenerales_p, &registra_antecedentes_p,
              &BorrarAdmision, &BorrarExpediente});
     bindAll({&CambiaPass});
@@ -186,6 +188,11 @@ void DMOdonto::addClassDescriptions() {
     });
     Prestacionxserv.addLookup(QStringLiteral("CLDescr"), QStringLiteral("prestacion"), Prestaciones,
                               QStringLiteral("prestacion"), QStringLiteral("descripcion"));
+}
+
+QString DMOdonto::campusDelUsuario(const QString &usuario) {
+    CampusUsuario.open({{QStringLiteral("usr"), usuario}});
+    return CampusUsuario.text(QStringLiteral("campus"));
 }
 
 void DMOdonto::FolioAdm() {

@@ -16,6 +16,7 @@ public:
     NamedQuery ControlUsuarios;
     NamedQuery ControlUsuarios1;
     NamedQuery ControlUsuarios2;
+    NamedQuery CampusUsuario;
     NamedQuery Usuarios_Mant;
     NamedQuery Usuarios_Mant1;
     Command CambiaPass;
@@ -35,6 +36,7 @@ public:
     NamedQuery CtroAtencion4;
     NamedQuery CtroAtencionF;
     NamedQuery AreaVenta;
+    NamedQuery AreaVenta1;
     NamedQuery AreaVenta2;
     NamedQuery AreaVenta3;
     NamedQuery AreaVentaT;
@@ -81,6 +83,9 @@ public:
     FixedText<8> NumExpediente;
     int ConsecExpediente = 0;
 
+    /// The campus whose cash desks a user sees, by his row as it stands now; empty for no such
+    /// user.
+    QString campusDelUsuario(const QString &usuario);
     void FolioAdm();
     void FolioExp();
 

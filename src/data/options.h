@@ -102,6 +102,8 @@ struct Options {
     /// "Fecha Inicial de Busqueda." of the dossiers as a date; an invalid date where it is none.
     QDate fechaExpedientes() const;
 
+    bool operator==(const Options &) const = default;
+
 private:
     void loadGeneral(const IniFile &ini);
     void loadSystem(const IniFile &ini);

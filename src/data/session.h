@@ -37,8 +37,7 @@ struct Session {
     FixedText<2> Centro;
     FixedText<5> Prog;
     FixedText<60> CentroDescr;
-    FixedText<1> Campus;  ///< controlusuarios.campus of the user: whose cash desks he sees
-    Money TipoCambio;     ///< pesos per dollar
+    Money TipoCambio;  ///< pesos per dollar
 
     // While the program runs.
     FixedText<8> UltimoExpediente;

@@ -277,7 +277,6 @@ void FRMAcceso::fillSession(const QString &code) {
     }
     current.Origen = user.text(QStringLiteral("origen"));
     current.Centro = user.text(QStringLiteral("centro"));
-    current.Campus = user.text(QStringLiteral("campus"));
     current.Usuario = code;
     current.NombreCorto = user.text(QStringLiteral("nombrecorto"));
 }

@@ -6,10 +6,10 @@
 
 #include "app/catalogue_panel.h"
 #include "app/screen.h"
-#include "data/database_error.h"
 #include "tests/support/accessibility.h"
 #include "tests/support/documents.h"
 #include "tests/support/keys.h"
+#include "tests/support/seams.h"
 #include "tests/support/test_station.h"
 
 namespace kaldo::test {
@@ -17,21 +17,8 @@ namespace kaldo::test {
 inline const QString kSave = QStringLiteral("¿La Información es Correcta?");
 inline const QString kRemove = QStringLiteral("¿Desea borrar esta Información?");
 
-/// Refuses one write, as a server does that went away before the commit.
-class RefusedWrite final : public Seam {
-public:
-    static QString text() { return QStringLiteral("El servidor no contesta."); }
-    void refuse(int nth) { left_ = nth; }
-    void beforeCommit(const Execution &execution) override {
-        if (execution.writes && --left_ == 0) {
-            throw DatabaseError(
-                text(), {DatabaseFailure::Other, {}, 0, {}, execution.connection, execution.name});
-        }
-    }
-
-private:
-    int left_ = 0;
-};
+/// What a server says that went away before the commit.
+inline const QString kNoServer = QStringLiteral("El servidor no contesta.");
 
 /// A catalogue over the example school, driven by keys.
 template <typename S>
@@ -77,9 +64,9 @@ protected:
     }
     /// The n-th write from now on fails, and its box is expected.
     void refuseWrite(int nth = 1) {
-        refused_.refuse(nth);
-        station.conexion.setSeam(&refused_);
-        station.messages.expectError(RefusedWrite::text());
+        seam_.strike(Moment::BeforeCommit, atWrite(nth), refusing(kNoServer));
+        station.conexion.setSeam(&seam_);
+        station.messages.expectError(kNoServer);
     }
     /// What the screen previews; its pages become pictures where these are asked for.
     report::Document preview(const QString &name) {
@@ -95,7 +82,7 @@ protected:
     }
 
 private:
-    RefusedWrite refused_;
+    TestSeam seam_;
 
 protected:
     TestStation station;

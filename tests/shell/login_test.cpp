@@ -32,7 +32,6 @@ TEST(Login, CashierFillsTheSession) {
     EXPECT_EQ(session.Centro.text(), "01");
     EXPECT_EQ(session.Prog.text(), "12510");
     EXPECT_EQ(session.CentroDescr.text(), "CLINICA DE LICENCIATURA VALLE NORTE");
-    EXPECT_EQ(session.Campus.text(), "2");
     EXPECT_EQ(session.TipoCambio, Money::fromTenThousandths(195000));
     EXPECT_EQ(station.panel(0), "   Usuario: FERNANDA OCHOA");
     EXPECT_EQ(station.panel(3), "   Tipo Cambio: $19.50");

@@ -59,6 +59,7 @@ void RecordingPrinting::preview(const report::Document &document, const QString 
 
 void TestFrame::setEntryEnabled(const QString &entry, bool enabled) {
     (enabled ? enabledEntries : disabledEntries) += entry;
+    states_[entry] = enabled;
 }
 
 }  // namespace kaldo::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QStringList>
 
 #include <deque>
@@ -104,6 +105,9 @@ public:
     void advanceProgress() override { ++progressSteps; }
     void endProgress() override { ++progressEnded; }
 
+    /// As it was set last; true where it never was.
+    bool lastState(const QString &entry) const { return states_.value(entry, true); }
+
     QStringList openedEntries;
     QStringList enabledEntries;
     QStringList disabledEntries;
@@ -113,6 +117,9 @@ public:
     int figuresRefreshed = 0;
     int progressSteps = 0;
     int progressEnded = 0;
+
+private:
+    QHash<QString, bool> states_;
 };
 
 }  // namespace kaldo::test

@@ -58,7 +58,6 @@ void TestStation::logIn(const QString &usuario) {
     session.Mpo = row.text("mpo");
     session.Origen = row.text("origen");
     session.Centro = row.text("centro");
-    session.Campus = row.text("campus");
     odonto.CtroAtencion1.open({{"cd", session.Origen.text()}});
     odonto.CtroAtencion1.locate({{"centro", session.Centro.text()}});
     session.Prog = odonto.CtroAtencion1.text("prog").rightJustified(5, '0');

@@ -46,6 +46,11 @@ Money Money::rounded(double pesos) {
     return Money(static_cast<qint64>(scaled));
 }
 
+double roundedToCents(double pesos) {
+    const qint64 count = Money::rounded(pesos).tenThousandths();
+    return static_cast<double>((count + (count < 0 ? -50 : 50)) / 100) / 100.0;
+}
+
 QString formatMoney(double pesos, MoneyMask mask) {
     return formatMoney(Money::rounded(pesos), mask);
 }

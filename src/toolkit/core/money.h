@@ -47,6 +47,9 @@ enum class MoneyMask {
     Spaced,  ///< "$ #,##0.00"
 };
 
+/// The amount as the masks show it.
+double roundedToCents(double pesos);
+
 QString formatMoney(double pesos, MoneyMask mask = MoneyMask::Tight);
 QString formatMoney(Money amount, MoneyMask mask = MoneyMask::Tight);
 
