@@ -1,6 +1,7 @@
 #include "catalogues/frm110_banks.h"
 
 #include "app/room.h"
+#include "catalogues/bank_copy.h"
 #include "catalogues/lookups.h"
 #include "data/catalogue_texts.h"
 #include "toolkit/forms/form.h"
@@ -51,6 +52,7 @@ CatalogueRules FRM110::banks() {
             .editable(),
     };
     rules.fixedOnEdit = {u"BANCOID"_s};
+    rules.toldBy = {u"BANCOID"_s, u"DESCRIPCION"_s};
     rules.editAt = u"GENEROID"_s;
     rules.enter = {
         {u"BANCOID"_s, [this] { return enterBanco(); }},
@@ -63,8 +65,8 @@ CatalogueRules FRM110::banks() {
         {u"TIPOMONEDA"_s, [] { return EnterResult::Save; }},
     };
     rules.accept = [this] { return hasDescription(); };
-    rules.write = [this] { writeBank(); };
-    rules.remove = [this] { removeBank(); };
+    rules.write = [this, &finanzas] { write(finanzas.Bancos); };
+    rules.remove = [this, &finanzas] { remove(finanzas.Bancos); };
     rules.modeChanged = [this](CatalogueMode mode) {
         if (mode == CatalogueMode::Edit) {
             openLists();
@@ -97,14 +99,15 @@ CatalogueRules FRM110::programmesOfBank() {
         row.set(u"bancoid"_s, finanzas.Bancos.value(u"bancoid"_s));
     };
     rules.enter = {{u"PROGRAMAID"_s, [this] { return enterPrograma(); }}};
-    rules.write = [this] { writeProgramme(); };
-    rules.remove = [this] { removeProgramme(); };
+    rules.write = [this, &finanzas] { write(finanzas.BancoPrograma); };
+    rules.remove = [this, &finanzas] { remove(finanzas.BancoPrograma); };
     return rules;
 }
 
 void FRM110::formCreate() {
     context().finanzas.Programas.open();
     panel_->reload();
+    updateBankCopy(context());
 }
 
 void FRM110::activated() {
@@ -157,56 +160,14 @@ EnterResult FRM110::enterPrograma() {
     return EnterResult::Save;
 }
 
-void FRM110::writeBank() {
-    NamedQuery &bank = panel_->query();
-    bank.apply();
-    if (!session().isFirebird()) {
-        return;  // that clinic database sees the tables of finance
-    }
-    Parameters copy;
-    for (const auto &column : {u"bancoid"_s, u"generoid"_s, u"grupoid"_s, u"cgrubroid"_s,
-                               u"cuentaid"_s, u"subctaid"_s, u"subsubctaid"_s, u"nomenclatura"_s,
-                               u"descripcion"_s, u"tipomoneda"_s, u"posleftnumcheque"_s}) {
-        copy.append({column, bank.value(column)});
-    }
-    context().caja.CopiaBanco.execute(copy);
+void FRM110::write(NamedQuery &rows) {
+    rows.apply();
+    updateBankCopy(context());
 }
 
-void FRM110::removeBank() {
-    NamedQuery &bank = panel_->query();
-    const QVariant bancoid = bank.value(u"bancoid"_s);
-    bank.remove();
-    bank.apply();
-    if (session().isFirebird()) {
-        context().caja.BorraBanco.execute({{u"bancoid"_s, bancoid}});
-    }
-}
-
-void FRM110::writeProgramme() {
-    // The list of banks may have moved on since the row was opened.
-    const QVariant bancoid = programas_->query().value(u"bancoid"_s);
-    programas_->query().apply();
-    copyProgrammes(bancoid);
-}
-
-void FRM110::removeProgramme() {
-    const QVariant bancoid = programas_->query().value(u"bancoid"_s);
-    programas_->query().remove();
-    programas_->query().apply();
-    copyProgrammes(bancoid);
-}
-
-void FRM110::copyProgrammes(const QVariant &bancoid) {
-    if (!session().isFirebird()) {
-        return;
-    }
-    DMIngresosCaja &caja = context().caja;
-    NamedQuery &rows = programas_->query();
-    caja.BorraBancoProgramas.execute({{u"bancoid"_s, bancoid}});
-    for (int row = 0; row < rows.count(); ++row) {
-        caja.CopiaBancoPrograma.execute(
-            {{u"bancoid"_s, bancoid}, {u"programaid"_s, rows.valueAt(row, u"programaid"_s)}});
-    }
+void FRM110::remove(NamedQuery &rows) {
+    rows.remove();
+    write(rows);
 }
 
 bool FRM110::hasDescription() {

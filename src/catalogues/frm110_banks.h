@@ -29,12 +29,9 @@ private:
     void openSubSubcta();
     void openProgrammes();
     void toggleProgrammes();
-    void writeBank();
-    void removeBank();
-    void writeProgramme();
-    void removeProgramme();
-    /// Brings the clinic's copy of the open list of programmes, which is this bank's, up to date.
-    void copyProgrammes(const QVariant &bancoid);
+    /// In finance first, then in the clinic's copy.
+    void write(NamedQuery &rows);
+    void remove(NamedQuery &rows);
 
     AccountLevels levels_;
     CataloguePanel *panel_ = nullptr;
