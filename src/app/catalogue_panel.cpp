@@ -47,6 +47,9 @@ void CataloguePanel::setRules(CatalogueRules rules) {
     grid_->setArrowCancelHandler([this] { cancel(); });
     grid_->setDoubleClickHandler([this] { edit(); });
     grid_->setTabHeld(true);
+    hint_ = new ListHint(grid_);
+    connectGuarded(grid_, &DataGrid::cellEdited, this,
+                   [this](const QString &field) { keyEdited(field); });
     connectGuarded(rules_.query, &NamedQuery::cursorMoved, this, [this] { emit rowChanged(); });
     connectGuarded(rules_.query, &NamedQuery::opened, this, [this] { emit rowChanged(); });
     connectGuarded(rules_.query, &NamedQuery::stateChanged, this, [this] {
@@ -218,7 +221,7 @@ void CataloguePanel::save() {
         return;
     }
     moveFocus(grid_);
-    if (!keysFilled() || (rules_.accept && !rules_.accept())) {
+    if (!keysFilled() || !keyAccepted() || (rules_.accept && !rules_.accept())) {
         return;
     }
     const Answer answer = context_.messages.confirm(rules_.saveQuestion);
@@ -280,7 +283,8 @@ void CataloguePanel::remove() {
     if ((editing() && !removeAllowed_) || rules_.query->position() < 0) {
         return;
     }
-    const Answer answer = context_.messages.confirm(rules_.removeQuestion);
+    const Answer answer =
+        context_.messages.confirmLoss(rules_.removeQuestion, grid_->rowText(rules_.toldBy));
     if (answer == Answer::Ended) {
         return;
     }
@@ -368,6 +372,31 @@ bool CataloguePanel::keysFilled() {
     });
 }
 
+bool CataloguePanel::keyAccepted() {
+    if (!inserting() || saveAllowed_) {
+        return true;
+    }
+    for (const QString &field : std::as_const(rules_.fixedOnEdit)) {
+        if (rules_.enter.contains(field)) {
+            rules_.enter.value(field)();
+            if (!saveAllowed_) {
+                grid_->setCurrentField(field);
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+void CataloguePanel::keyEdited(const QString &field) {
+    // A key typed over one that was accepted isn't accepted.
+    if (inserting() && rules_.fixedOnEdit.contains(field, Qt::CaseInsensitive) &&
+        rules_.enter.contains(field)) {
+        saveAllowed_ = false;
+        updateButtons();
+    }
+}
+
 void CataloguePanel::enterColumn(const QString &field) {
     if (!editing()) {
         return;
@@ -426,6 +455,13 @@ void CataloguePanel::updateButtons() {
     for (IconButton *button : std::as_const(navigator_)) {
         button->setEnabled(consult && rows);
     }
+    QString hint;
+    if (!rules_.query->isOpen()) {
+        hint = rules_.waitsFor;
+    } else if (!rows) {
+        hint = QStringLiteral("La lista está vacía.");
+    }
+    hint_->say(hint);
     if (!rules_.small) {
         // A row that isn't saved yet has no place on paper.
         context_.frame.setEntryEnabled(QStringLiteral("A1"), consult && rows && rules_.reports);

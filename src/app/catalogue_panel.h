@@ -7,6 +7,7 @@
 
 #include "app/binding.h"
 #include "app/context.h"
+#include "app/list_hint.h"
 #include "data/named_query.h"
 #include "toolkit/forms/button.h"
 #include "toolkit/forms/data_grid.h"
@@ -45,6 +46,8 @@ struct CatalogueRules {
 
     QString saveQuestion = QStringLiteral("¿La Información es Correcta?");
     QString removeQuestion = QStringLiteral("¿Desea borrar esta Información?");
+    /// The columns that tell which row would be deleted; else the first two.
+    QStringList toldBy;
     WriteFailure writeFailure = WriteFailure::KeepsRowOpen;
 
     /// False: "&Insertar" does nothing. Runs before the row is appended.
@@ -78,6 +81,8 @@ struct CatalogueRules {
     /// After every change of the mode, and after every reload.
     std::function<void(CatalogueMode)> modeChanged;
 
+    /// What the list says while its query is closed: what the user has to choose first.
+    QString waitsFor;
     /// A small catalogue inside a screen has no navigator and leaves the preview alone.
     bool small = false;
     /// False where there is no report: the preview's entry stays disabled.
@@ -164,6 +169,9 @@ private:
     /// False while a cell or a detail field holds what it can't take; it has told so.
     bool commitInput();
     bool keysFilled();
+    /// A new row's key has passed its tests; where it hasn't been asked, it is now.
+    bool keyAccepted();
+    void keyEdited(const QString &field);
     EnterResult cleared(const QString &field);
     void writeRow();
     void removeRow();
@@ -183,6 +191,7 @@ private:
     Button *cancel_ = nullptr;
     QList<IconButton *> navigator_;
     DataGrid *grid_ = nullptr;
+    ListHint *hint_ = nullptr;
     CatalogueMode mode_ = CatalogueMode::Consult;
     bool inserting_ = false;
     bool insertAllowed_ = true;

@@ -28,7 +28,7 @@ FRM105::FRM105(Context &context)
         column({
             row({stretch(),
                  button(&borrarTodas_, u"BorrarTodas"_s, u"&Borrar Todas las Áreas de Ventas"_s)
-                     .icon(u"delete"_s)
+                     .icon(u"delete-all"_s)
                      .with(withoutLetter)
                      .clicked([this] { borrarTodas(); }),
                  iconButton(&duplicadosBoton_, u"Duplicados"_s, u"Duplicados"_s, u"duplicate"_s)
@@ -172,7 +172,9 @@ bool FRM105::mayRemove() {
 
 void FRM105::borrarTodas() {
     const QString question = u"¿¿Desea borrar todas las áreas para esta ciudad?"_s;
-    if (messages().confirm(question) != Answer::Yes) {
+    const QString lost =
+        u"Ciudad: %1\nÁreas: %2"_s.arg(session().Origen.text()).arg(panel_->query().count());
+    if (messages().confirmLoss(question, lost) != Answer::Yes) {
         return;
     }
     context().odonto.ejecutar("AreaVenta", borrarAreasText(session().Origen.text()));

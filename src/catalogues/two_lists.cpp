@@ -33,6 +33,7 @@ TwoLists::TwoLists(Context &context, QWidget *parent, const QString &name)
     build();
     bindGrid(available_, &context_.odonto.ConsultaAreas);
     bindGrid(added_, &context_.odonto.ServxCtro);
+    hints_ = {new ListHint(available_), new ListHint(added_)};
     updateButtons();
 }
 
@@ -180,6 +181,9 @@ void TwoLists::updateButtons() {
     buttons_->setEnabled(open);
     const bool available = open && !context_.odonto.ConsultaAreas.isEmpty();
     const bool added = open && !context_.odonto.ServxCtro.isEmpty();
+    const QString wait = u"Elija el centro de atención."_s;
+    hints_[0]->say(open ? (available ? u""_s : u"No queda ninguna por agregar."_s) : wait);
+    hints_[1]->say(open ? (added ? u""_s : u"Todavía no hay ninguna."_s) : wait);
     addAll_->setEnabled(available);
     addSelected_->setEnabled(available);
     removeSelected_->setEnabled(added);

@@ -2,9 +2,11 @@
 
 #include <QWidget>
 
+#include <array>
 #include <functional>
 
 #include "app/context.h"
+#include "app/list_hint.h"
 #include "toolkit/forms/button.h"
 #include "toolkit/forms/data_grid.h"
 #include "toolkit/forms/form.h"
@@ -53,6 +55,7 @@ private:
     QString centro_;
     DataGrid *available_ = nullptr;
     DataGrid *added_ = nullptr;
+    std::array<ListHint *, 2> hints_ = {};
     QWidget *buttons_ = nullptr;
     IconButton *addAll_ = nullptr;
     IconButton *addSelected_ = nullptr;

@@ -102,6 +102,7 @@ void FRMControlPanel::showOptions() {
     showLogos();
     Sector();
     followSwitches();
+    shown_ = typed();
 }
 
 void FRMControlPanel::showCounters() {
@@ -184,15 +185,7 @@ void FRMControlPanel::AplicarCambios() {
     if (!valuesFit() || !recordsSaved()) {
         return;
     }
-    Options changed = options();
-    sheet_.take(&changed);
-    if (const int scheme = Ambiente_->index();
-        scheme >= 0 && scheme != schemeIndex(changed.SkinName)) {
-        changed.SkinName = QString::fromLatin1(kSchemes.at(scheme).name);
-        changed.Skin = QString::fromLatin1(kSchemes.at(scheme).library);
-    }
-    changed.ImgEmpresa = logos_[0].path;
-    changed.ImgEmpresa1 = logos_[1].path;
+    const Options changed = typed();
     const bool otherLook = changed.SkinName != options().SkinName;
     changed.save(context().ini);
     context().options = changed;
@@ -204,6 +197,34 @@ void FRMControlPanel::AplicarCambios() {
     messages().information(
         QStringLiteral("Algunos cambios pueden necesitar reiniciar el sistema."));
     accept();
+}
+
+Options FRMControlPanel::typed() const {
+    Options typed = options();
+    sheet_.take(&typed);
+    if (const int scheme = Ambiente_->index();
+        scheme >= 0 && scheme != schemeIndex(typed.SkinName)) {
+        typed.SkinName = QString::fromLatin1(kSchemes.at(scheme).name);
+        typed.Skin = QString::fromLatin1(kSchemes.at(scheme).library);
+    }
+    typed.ImgEmpresa = logos_[0].path;
+    typed.ImgEmpresa1 = logos_[1].path;
+    return typed;
+}
+
+bool FRMControlPanel::changed() const {
+    return typed() != shown_ ||
+           std::any_of(records_.begin(), records_.end(),
+                       [](const RecordGrid *records) { return records->editing(); });
+}
+
+void FRMControlPanel::reject() {
+    runGuarded([this] {
+        const QString question = QStringLiteral("¿Desea cerrar el panel sin aplicar los cambios?");
+        if (!changed() || messages().confirmLoss(question, {}) == Answer::Yes) {
+            Dialog::reject();
+        }
+    });
 }
 
 bool FRMControlPanel::valuesFit() {

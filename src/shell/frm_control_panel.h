@@ -31,6 +31,8 @@ public:
     void openFromMenu(ScreenBase *opener);
 
     void activated() override;
+    /// Asks first where something was changed.
+    void reject() override;
 
 protected:
     void build() override;
@@ -54,6 +56,9 @@ private:
     void bindRecords();
 
     void AplicarCambios();
+    /// The options as the widgets have them.
+    Options typed() const;
+    bool changed() const;
     bool valuesFit();
     bool recordsSaved();
     void showOptions();
@@ -111,6 +116,7 @@ private:
     DataGrid *GridRecibos_ = nullptr;
     DataGrid *GridFirebird_ = nullptr;
     DataGrid *GridInformix_ = nullptr;
+    Options shown_;  ///< as the panel was filled
     std::vector<RecordGrid *> records_;
 };
 

@@ -23,15 +23,14 @@ GridColumn numberColumn(const QString &field, const QString &title, int width, i
 FRMControlUsuarios::FRMControlUsuarios(Context &context)
     : Screen(context, u"FRMControlUsuarios"_s, u"Control de Usuarios"_s) {
     using namespace form;
-    form::build(
-        this,
-        column({
-            label(u"Administre las opciones para cada usuario de KALDO."_s).bold(),
-            catalogue(&panel_, context, u"Usuarios"_s, users()),
-            custom<RightsGrids>(&rights_, u"Derechos"_s).fill().with([this](RightsGrids *grids) {
-                grids->setQuery(rights());
-            }),
-        }));
+    form::build(this, column({
+                          label(u"Administre las opciones para cada usuario de KALDO."_s).bold(),
+                          catalogue(&panel_, context, u"Usuarios"_s, users()),
+                          custom<RightsGrids>(&rights_, u"Derechos"_s)
+                              .fill()
+                              .grow()
+                              .with([this](RightsGrids *grids) { grids->setQuery(rights()); }),
+                      }));
     rights_->setEditable(false);
     connectGuarded(panel_, &CataloguePanel::rowChanged, this, [this] { openRights(); });
     connectGuarded(rights_, &RightsGrids::finished, this, [this] { panel_->save(); });
@@ -48,7 +47,11 @@ CatalogueRules FRMControlUsuarios::users() {
     rules.keys = {u"usuario"_s};
     rules.columns = userColumns();
     rules.fixedOnEdit = {u"USUARIO"_s};
-    rules.defaults = [this](NamedQuery &row) { row.set(u"origen"_s, session().Origen.text()); };
+    rules.toldBy = {u"USUARIO"_s, u"NOMBRE"_s};
+    rules.defaults = [this](NamedQuery &row) {
+        row.set(u"origen"_s, session().Origen.text());
+        row.set(u"campus"_s, context().odonto.campusDelUsuario(session().Usuario.text()));
+    };
     rules.openRow = [this] { openUser(); };
     rules.enter = {
         {u"USUARIO"_s, [this] { return enterUsuario(); }},
@@ -60,6 +63,7 @@ CatalogueRules FRMControlUsuarios::users() {
     };
     rules.complete = [this] { return completeRights(); };
     rules.write = [this] { write(); };
+    rules.mayRemove = [this] { return mayRemove(); };
     rules.remove = [this] { remove(); };
     rules.drop = [this] { rights().cancelUpdates(); };
     rules.modeChanged = [this](CatalogueMode mode) {
@@ -165,6 +169,20 @@ bool FRMControlUsuarios::completeRights() {
 void FRMControlUsuarios::write() {
     rights().apply();
     panel_->query().apply();
+}
+
+bool FRMControlUsuarios::mayRemove() {
+    const QString usuario = panel_->query().text(u"usuario"_s).trimmed();
+    if (usuario.compare(session().Usuario.text().trimmed(), Qt::CaseInsensitive) == 0) {
+        messages().warning(u"No se puede borrar al usuario con el que se entró al sistema."_s);
+        return false;
+    }
+    if (panel_->query().text(u"acceso"_s) == u"AM"_s &&
+        !context().odonto.existe(otroAdministradorText(session().Origen.text(), usuario))) {
+        messages().warning(u"No se puede borrar al último administrador."_s);
+        return false;
+    }
+    return true;
 }
 
 void FRMControlUsuarios::remove() {

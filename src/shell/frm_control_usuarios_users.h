@@ -31,6 +31,8 @@ private:
     void beginRights();
     bool completeRights();
     void write();
+    /// Nobody deletes himself or the last administrator of the campus.
+    bool mayRemove();
     void remove();
 
     CataloguePanel *panel_ = nullptr;

@@ -274,7 +274,7 @@ void FRMInicioFirebird::offerPriceList() {
 void FRMInicioFirebird::reject() {
     runGuarded([this] {
         const Answer answer =
-            messages().confirm(u"¿Desea cerrar el asistente sin terminar el proceso?"_s);
+            messages().confirmLoss(u"¿Desea cerrar el asistente sin terminar el proceso?"_s, {});
         if (answer != Answer::Yes) {
             return;
         }

@@ -34,7 +34,8 @@ void RecordGrid::edit() {
 }
 
 void RecordGrid::remove() {
-    if (messages_.confirm(QStringLiteral("¿Desea borrar esta Información?")) != Answer::Yes) {
+    if (messages_.confirmLoss(QStringLiteral("¿Desea borrar esta Información?"),
+                              settings_.grid->rowText()) != Answer::Yes) {
         return;
     }
     const int row = settings_.query->position();

@@ -212,7 +212,13 @@ TEST_F(ControlPanel, ClosingWithoutApplyingBringsTheLiveOptionsBack) {
     at.inPanel([&] {
         at.type("NombreInstitucion", "otra");
         at.choose("Sector", 0);
+        const QString question = "¿Desea cerrar el panel sin aplicar los cambios?";
+        at.messages.expectConfirmation(question, Answer::No);
         press(Qt::Key_Escape);
+        EXPECT_TRUE(at.panel().isVisible());
+        at.messages.expectConfirmation(question, Answer::Yes);
+        press(Qt::Key_Escape);
+        EXPECT_EQ(at.messages.boxes().last().preset, Answer::No);
     });
     EXPECT_FALSE(at.stillOpen);
     at.inPanel([&] {
@@ -414,6 +420,7 @@ TEST_F(ControlPanel, ReceiptsAreKeptByTheMenu) {
         at.pick("GridRecibos", "Ultimo Registro");
         at.messages.expectConfirmation("¿Desea borrar esta Información?", Answer::No);
         at.pick("GridRecibos", "Borrar Registro");
+        EXPECT_EQ(at.messages.boxes().last().detail, "Recibo: 3\nDescripción: copia 2");
         at.messages.expectConfirmation("¿Desea borrar esta Información?", Answer::Yes);
         at.pick("GridRecibos", "Borrar Registro");
         EXPECT_EQ(at.rows(all), "1 otra|2 copia 3");

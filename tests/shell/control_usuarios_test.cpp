@@ -165,6 +165,27 @@ TEST_F(ControlUsuarios, RightsFollowTheLineAndChangeWithIt) {
     }
 }
 
+TEST_F(ControlUsuarios, NobodyDeletesHimselfOrTheLastAdministrator) {
+    open();
+    goToUser("admin");
+    answer(kRemove);
+    station.messages.expectWarning("No se puede borrar al usuario con el que se entró al sistema.");
+    alt(Qt::Key_B);
+    EXPECT_EQ(station.messages.boxes().first().detail.section('\n', 0, 0), "Usuario: admin");
+    changeInClinic("update controlusuarios set acceso='AM' where usuario='cajero1'");
+    panel()->refresh();
+    goToUser("cajero1");
+    // The other one has just been deleted by another station.
+    changeInClinic("delete from controlusuarios where usuario='admin'");
+    answer(kRemove);
+    station.messages.expectWarning("No se puede borrar al último administrador.");
+    alt(Qt::Key_B);
+    changeInClinic("update controlusuarios set acceso='AM' where usuario='admision'");
+    answer(kRemove);
+    alt(Qt::Key_B);
+    EXPECT_EQ(user("cajero1", "count(*)"), "0");
+}
+
 TEST_F(ControlUsuarios, SecondWriteThatFailsLeavesTheRightsAlone) {
     open();
     typeUser("mesa1");

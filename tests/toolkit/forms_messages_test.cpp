@@ -48,6 +48,19 @@ TEST(MessageBox, AsksInSpanishAndKeysAnswer) {
     EXPECT_EQ(messages.confirm(QStringLiteral("¿Desea salir de KALDO?")), Answer::No);
 }
 
+TEST(MessageBox, AskedForALossItShowsItAndEnterMeansNo) {
+    BoxMessages messages;
+    during([](QWidget *box) {
+        EXPECT_EQ(child<QLabel>(box, "messageDetail")->text(), "Usuario: ana\nNombre: ANA SOTO");
+        checkAccessibility(*box);
+        picture(box, "forms_loss");
+        press(Qt::Key_Return);
+    });
+    EXPECT_EQ(
+        messages.confirmLoss("¿Desea borrar esta Información?", "Usuario: ana\nNombre: ANA SOTO"),
+        Answer::No);
+}
+
 TEST(MessageBox, TheEnterThatOpenedItDoesNotCloseItWhileHeld) {
     BoxMessages messages;
     bool stood = false;

@@ -372,6 +372,20 @@ QVariant DataGrid::currentValue(const QString &field) const {
     return section < 0 ? QVariant() : currentIndex().siblingAtColumn(section).data(Qt::EditRole);
 }
 
+QString DataGrid::rowText(const QStringList &fields) const {
+    constexpr int kTold = 2;
+    QStringList lines;
+    for (const GridColumn::Settings &column : std::as_const(state_->columns)) {
+        const bool told = fields.isEmpty() ? !column.hidden && lines.size() < kTold
+                                           : fields.contains(column.field, Qt::CaseInsensitive);
+        if (told && currentIndex().isValid()) {
+            lines += column.title + QStringLiteral(": ") +
+                     GridDelegate::shownText(currentValue(column.field), column);
+        }
+    }
+    return lines.join(u'\n');
+}
+
 void DataGrid::setColumnVisible(const QString &field, bool visible) {
     for (GridColumn::Settings &column : state_->columns) {
         if (column.field.compare(field, Qt::CaseInsensitive) == 0 && column.hidden == visible) {

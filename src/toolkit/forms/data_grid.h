@@ -129,6 +129,9 @@ public:
     void setCurrentField(const QString &field);
     /// The raw value of a field in the current row; invalid for none.
     QVariant currentValue(const QString &field) const;
+    /// The current row as it is shown, "Title: value" a line for each of these fields, in the order
+    /// of the columns; for the first two visible columns where none is named. Empty for no row.
+    QString rowText(const QStringList &fields = {}) const;
     /// The rows that it would like to have room for; 8 unless told.
     void setShownRows(int rows);
     void setColumnVisible(const QString &field, bool visible);

@@ -60,7 +60,7 @@ public:
         rows->setSpacing(18);
         rows->setSizeConstraint(QLayout::SetFixedSize);
         rows->addLayout(content(message));
-        rows->addLayout(buttons(message.kind));
+        rows->addLayout(buttons(message));
         anyKey_ = takesAnyKey(message);
     }
 
@@ -83,36 +83,53 @@ private:
         const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
         picture->setPixmap(iconNamed(pictureOf(message.kind)).pixmap(size, size));
         line->addWidget(picture, 0, Qt::AlignTop);
+        auto *texts = new QVBoxLayout;
+        texts->setSpacing(10);
+        texts->addWidget(paragraph(QStringLiteral("messageText"), message.text));
+        if (!message.detail.isEmpty()) {
+            QLabel *detail = paragraph(QStringLiteral("messageDetail"), message.detail);
+            texts->addWidget(detail);
+        }
+        line->addLayout(texts, 1);
+        line->setAlignment(texts, Qt::AlignVCenter);
+        setAccessibleName(windowTitle());
+        setAccessibleDescription((message.text + u'\n' + message.detail).trimmed());
+        return line;
+    }
+
+    QLabel *paragraph(const QString &name, const QString &content) {
         auto *text = new QLabel(this);
-        text->setObjectName(QStringLiteral("messageText"));
+        text->setObjectName(name);
         text->setTextFormat(Qt::PlainText);
-        text->setText(message.text);
+        text->setText(content);
         text->setWordWrap(true);
         const QFontMetrics metrics(text->font());
         const int widest = metrics.averageCharWidth() * kTextCharacters;
         const QRect needed = metrics.boundingRect(QRect(0, 0, widest, 10000),
-                                                  Qt::TextWordWrap | Qt::AlignLeft, message.text);
+                                                  Qt::TextWordWrap | Qt::AlignLeft, content);
         text->setMinimumWidth(qMin(widest, needed.width() + metrics.averageCharWidth()));
         text->setMaximumWidth(widest);
-        line->addWidget(text, 1, Qt::AlignVCenter);
-        setAccessibleName(windowTitle());
-        setAccessibleDescription(message.text);
-        return line;
+        return text;
     }
 
-    QLayout *buttons(MessageKind kind) {
+    QLayout *buttons(const Message &message) {
         auto *line = new QHBoxLayout;
         line->addStretch();
-        if (kind == MessageKind::Confirmation) {
-            add(line, QStringLiteral("yesButton"), QStringLiteral("&Sí"), QDialog::Accepted);
-            add(line, QStringLiteral("noButton"), QStringLiteral("&No"), QDialog::Rejected);
+        if (message.kind == MessageKind::Confirmation) {
+            Button *yes =
+                add(line, QStringLiteral("yesButton"), QStringLiteral("&Sí"), QDialog::Accepted);
+            Button *no =
+                add(line, QStringLiteral("noButton"), QStringLiteral("&No"), QDialog::Rejected);
+            (message.preset == Answer::No ? no : yes)->setFocus();
         } else {
-            add(line, QStringLiteral("okButton"), QStringLiteral("&Aceptar"), QDialog::Accepted);
+            add(line, QStringLiteral("okButton"), QStringLiteral("&Aceptar"), QDialog::Accepted)
+                ->setFocus();
         }
+        setAttribute(Qt::WA_KeyboardFocusChange);
         return line;
     }
 
-    void add(QHBoxLayout *line, const QString &name, const QString &text, int result) {
+    Button *add(QHBoxLayout *line, const QString &name, const QString &text, int result) {
         auto *button = new Button(this);
         button->setObjectName(name);
         button->setText(text);
@@ -120,10 +137,7 @@ private:
         connect(button, &QPushButton::clicked, this, [this, result] { done(result); });
         button->installEventFilter(this);
         line->addWidget(button);
-        if (line->count() == 2) {  // the stretch and the first button
-            button->setFocus();
-            setAttribute(Qt::WA_KeyboardFocusChange);
-        }
+        return button;
     }
 
     bool anyKey_ = false;
@@ -164,19 +178,23 @@ QString defaultTitle(MessageKind kind) {
 }
 
 void Messages::information(const QString &text, const QString &title) {
-    show({MessageKind::Information, text, title});
+    show({MessageKind::Information, text, title, {}, Answer::Yes});
 }
 
 void Messages::warning(const QString &text, const QString &title) {
-    show({MessageKind::Warning, text, title});
+    show({MessageKind::Warning, text, title, {}, Answer::Yes});
 }
 
 void Messages::error(const QString &text, const QString &title) {
-    show({MessageKind::Error, text, title});
+    show({MessageKind::Error, text, title, {}, Answer::Yes});
 }
 
 Answer Messages::confirm(const QString &text, const QString &title) {
-    return show({MessageKind::Confirmation, text, title});
+    return show({MessageKind::Confirmation, text, title, {}, Answer::Yes});
+}
+
+Answer Messages::confirmLoss(const QString &text, const QString &lost) {
+    return show({MessageKind::Confirmation, text, {}, lost, Answer::No});
 }
 
 Answer BoxMessages::show(const Message &message) {
