@@ -29,14 +29,19 @@ report::Band areaHead(const ClinicRow &row) {
 
 }  // namespace
 
-QList<ClinicRow> clinicRows(NamedQuery &areaatencion, NamedQuery &areas) {
-    const QHash<QString, QString> names = namesByCode(areas, u"tipo_prod"_s, u"descr"_s);
-    return mapRows(areaatencion, [&names](const QueryRow &from) {
+QList<ClinicRow> clinicRows(NamedQuery &areaatencion, NamedQuery &area) {
+    QHash<QString, QString> names;
+    return mapRows(areaatencion, [&](const QueryRow &from) {
+        const QString tipoProd = from.text(u"tipo_prod"_s);
+        if (!names.contains(tipoProd)) {
+            area.open({{u"tipo_prod"_s, from.value(u"tipo_prod"_s)}});
+            names.insert(tipoProd, area.isEmpty() ? tipoProd : area.text(u"descr"_s));
+        }
         ClinicRow row;
         row.centro = from.text(u"centro"_s);
         row.centroDescr = from.text(u"descr_1"_s);
-        row.tipoProd = from.text(u"tipo_prod"_s);
-        row.areaDescr = names.value(row.tipoProd, row.tipoProd);
+        row.tipoProd = tipoProd;
+        row.areaDescr = names.value(row.tipoProd);
         row.area = from.text(u"area"_s);
         row.descr = from.text(u"descr"_s);
         row.prog = from.text(u"prog"_s);

@@ -10,8 +10,8 @@ struct ClinicRow {
     QString area, descr, prog, tipoServ, responsable;
 };
 
-/// The rows of `AreaAtencionR`; the names of the sales areas come from a list of areas.
-QList<ClinicRow> clinicRows(NamedQuery &areaatencion, NamedQuery &areas);
+/// The rows of `AreaAtencionR`; `area` opens one sales area by its number, of whatever campus.
+QList<ClinicRow> clinicRows(NamedQuery &areaatencion, NamedQuery &area);
 
 /// By centre and, within it, by sales area.
 report::Document layoutClinics(const CatalogueHeading &heading, const QList<ClinicRow> &rows);

@@ -21,7 +21,7 @@ CatalogueRules FRM100::centres() {
     rules.parameters = [this] { return Parameters{{u"cd"_s, session().Origen.text()}}; };
     rules.keys = {u"centro"_s};
     rules.columns = {
-        GridColumn(u"CENTRO"_s, u"Centro"_s, 6).limit(4).upper().editable(),
+        GridColumn(u"CENTRO"_s, u"Centro"_s, 6).limit(4).editable(),
         GridColumn(u"DESCR"_s, u"Descripción"_s, 38).limit(80).upper().stretch().editable(),
         GridColumn(u"DOMICILIO"_s, u"Domicilio"_s, 28).limit(60).upper().editable(),
         GridColumn(u"COLONIA"_s, u"Colonia"_s, 20).limit(60).upper().editable(),
@@ -50,7 +50,7 @@ CatalogueRules FRM100::counters() {
     rules.parameters = [this] { return Parameters{{u"campus"_s, session().Origen.text()}}; };
     rules.keys = {u"campus"_s};
     rules.columns = {
-        GridColumn(u"CAMPUS"_s, u"Ciudad"_s, 8).limit(3).upper().editable(),
+        GridColumn(u"CAMPUS"_s, u"Ciudad"_s, 8).limit(3).editable(),
         GridColumn(u"NUM_EXPEDIENTE"_s, u"No. Expediente"_s, 16).mask(CellMask::Integer).editable(),
     };
     rules.fixedOnEdit = {u"CAMPUS"_s};

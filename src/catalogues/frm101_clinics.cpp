@@ -35,6 +35,7 @@ CatalogueRules FRM101::clinics() {
         return Parameters{{u"centro"_s, centro_->value()}, {u"tipo"_s, servicio_->value()}};
     };
     rules.keys = {u"area"_s};
+    rules.waitsFor = u"Elija el centro y el tipo de servicio para ver sus clínicas."_s;
     rules.columns = {
         GridColumn(u"AREA"_s, u"Area"_s, 6).limit(2).editable(),
         GridColumn(u"DESCR"_s, u"Descripción"_s, 36).limit(40).editable(),
@@ -151,12 +152,10 @@ EnterResult FRM101::enterResponsable() {
 
 bool FRM101::previewReport() {
     DMOdonto &odonto = context().odonto;
-    const Parameters campus = {{u"cd"_s, session().Origen.text()}};
-    odonto.AreaAtencionR.open(campus);
-    odonto.AreaVenta2.open(campus);
+    odonto.AreaAtencionR.open({{u"cd"_s, session().Origen.text()}});
     previewCatalogue(context(), this, this,
                      layoutClinics(catalogueHeading(context()),
-                                   clinicRows(odonto.AreaAtencionR, odonto.AreaVenta2)),
+                                   clinicRows(odonto.AreaAtencionR, odonto.AreaVenta1)),
                      windowTitle());
     return true;
 }

@@ -17,12 +17,14 @@ FRM104::FRM104(Context &context)
             row({lookup(&centro_, u"Centro"_s, u"Centro de Atención"_s)
                      .source(centres(context.odonto.CtroAtencion1))
                      .shown(44)
+                     .edited([this] { forgetCentre(); })
                      .closedUp([this] { chooseCentre(); }),
                  stretch()}),
             row({lookup(&area_, u"AreaVentas"_s, u"Áreas de venta"_s)
                      .source(salesAreas(context.odonto.ServxCtro))
                      .shown(44)
                      .disabled()
+                     .edited([this] { forgetArea(); })
                      .closedUp([this] { chooseArea(); }),
                  stretch(),
                  button(&descuentos_, u"ActualizarDescuento"_s, u"Actualizar % de descuento"_s)
@@ -43,6 +45,7 @@ CatalogueRules FRM104::services() {
         return Parameters{{u"cd"_s, session().Origen.text()}, {u"tipo_prod"_s, area_->value()}};
     };
     rules.keys = {u"tipo_prod"_s};
+    rules.waitsFor = u"Elija el centro y el área de venta para ver su clasificación."_s;
     rules.columns = {
         GridColumn(u"TIPO_PROD"_s, u"Clave"_s, 8).mask(CellMask::Integer),
         GridColumn(u"CLDESCR"_s, u"Descripción"_s, 40).stretch(),
@@ -90,14 +93,23 @@ void FRM104::activated() {
     panel_->refresh();
 }
 
-void FRM104::chooseCentre() {
-    DMOdonto &odonto = context().odonto;
+void FRM104::forgetArea() {
     areaChosen_ = false;
-    odonto.ClasifServicios.close();
+    context().odonto.ClasifServicios.close();
     panel_->setInsertAllowed(false);
     descuentos_->setEnabled(false);
-    odonto.ServxCtro.open({{u"cent"_s, centro_->value()}});
+}
+
+void FRM104::forgetCentre() {
+    forgetArea();
     area_->clearField();
+    area_->setEnabled(false);
+    context().odonto.ServxCtro.close();
+}
+
+void FRM104::chooseCentre() {
+    forgetCentre();
+    context().odonto.ServxCtro.open({{u"cent"_s, centro_->value()}});
     area_->setEnabled(true);
     moveFocus(area_);
 }

@@ -23,6 +23,9 @@ private:
     CatalogueRules services();
     void chooseCentre();
     void chooseArea();
+    /// What is typed over a choice is none; what hangs on it goes along.
+    void forgetCentre();
+    void forgetArea();
     void changeMode(CatalogueMode mode);
     /// Ages can only be written where the area asks for them.
     void allowAges();

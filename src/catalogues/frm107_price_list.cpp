@@ -33,7 +33,7 @@ FRM107::FRM107(Context &context) : Screen(context, u"FRM107"_s, u"Lista de Preci
                              .closedUp([this] { chooseArea(); }),
                          stretch(),
                          button(&borrarLista_, u"BorrarLista"_s, u"&Borrar Lista de Precios"_s)
-                             .icon(u"delete"_s)
+                             .icon(u"delete-all"_s)
                              .with(withoutLetter)
                              .disabled()
                              .clicked([this] { borrarLista(); }),
@@ -43,6 +43,10 @@ FRM107::FRM107(Context &context) : Screen(context, u"FRM107"_s, u"Lista de Preci
                     catalogue(&panel_, context, u"Precios"_s, prices()),
                 }));
     panel_->setInsertAllowed(false);
+}
+
+FRM107::~FRM107() {
+    context().odonto.AreaVenta.setFilter({});
 }
 
 form::Item FRM107::duplicates() {
@@ -76,6 +80,7 @@ CatalogueRules FRM107::prices() {
         return Parameters{{u"tipoprod"_s, context().odonto.AreaVenta.value(u"tipo_prod"_s)}};
     };
     rules.keys = {u"codigo"_s};
+    rules.waitsFor = u"Elija el área de ventas para ver sus precios."_s;
     rules.columns = priceColumns();
     rules.fixedOnEdit = {u"CVE_PROD"_s};
     rules.editAt = u"DESCR"_s;
@@ -172,6 +177,7 @@ QList<GridColumn> FRM107::priceColumns() {
 
 void FRM107::formCreate() {
     DMOdonto &odonto = context().odonto;
+    odonto.AreaVenta.setFilter(areasOfSector(options().sector));
     odonto.AreaVenta.open({{u"cd"_s, session().Origen.text()}});
     odonto.UMedida.open();
     context().finanzas.Programas.open();
@@ -243,16 +249,22 @@ bool FRM107::completeRow() {
         const bool taxed = tipodeiva.locate({{u"tipodeiva"_s, row.value(u"tipodeiva"_s)}});
         row.set(u"porcentajeiva"_s, taxed ? tipodeiva.value(u"porcentaje"_s) : QVariant());
     }
+    if (!row.isNull(u"menudeo"_s)) {
+        row.set(u"menudeo"_s, roundedToCents(row.number(u"menudeo"_s)));
+    }
     row.set(u"fecha_mov"_s, context().clock.today());
     return true;
 }
 
 void FRM107::borrarLista() {
     const QString question = u"¿Se borrarán todos los productos de esta área, desea proceder?"_s;
-    if (messages().confirm(question) != Answer::Yes) {
+    DMOdonto &odonto = context().odonto;
+    const QString lost =
+        u"Área de Ventas: %1\nProductos: %2"_s.arg(odonto.AreaVenta.text(u"descr"_s))
+            .arg(panel_->query().count());
+    if (messages().confirmLoss(question, lost) != Answer::Yes) {
         return;
     }
-    DMOdonto &odonto = context().odonto;
     odonto.ejecutar("Listaprecios", borrarPreciosText(odonto.AreaVenta.integer(u"tipo_prod"_s)));
     panel_->reload();
     tellDeleted(messages());

@@ -12,6 +12,7 @@ class FRM107 : public Screen {
 
 public:
     explicit FRM107(Context &context);
+    ~FRM107() override;
 
     void activated() override;
     bool previewReport() override;

@@ -231,7 +231,10 @@ void FRM401::takeConcept() {
         lines.set(name, precios_->value(name));
     }
     lines.set(QStringLiteral("DESCRIPCION"), precios_->value(QStringLiteral("DESCR")));
-    lines.set(QStringLiteral("PRECIO"), precios_->value(QStringLiteral("MENUDEO")));
+    // What an older list holds in fractions of a centavo is charged as it is shown.
+    const QVariant price = precios_->value(QStringLiteral("MENUDEO"));
+    lines.set(QStringLiteral("PRECIO"),
+              price.isValid() ? QVariant(roundedToCents(price.toDouble())) : price);
     const QString prog = precios_->text(QStringLiteral("PROG"));
     lines.set(QStringLiteral("PROG"), prog.isEmpty() ? session().Prog.text() : prog);
 }
@@ -331,7 +334,8 @@ void FRM401::cancelarRegistro() {
 
 void FRM401::borrarRegistro() {
     NamedQuery &table = context().local.FBDetalleVtas;
-    if (messages().confirm(QStringLiteral("¿Desea borrar este concepto?")) == Answer::Yes) {
+    if (messages().confirmLoss(QStringLiteral("¿Desea borrar este concepto?"), grid_->rowText()) ==
+        Answer::Yes) {
         auto backAgain = qScopeGuard([&table] { table.cancelUpdates(); });
         table.remove();
         table.apply();

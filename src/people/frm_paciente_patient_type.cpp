@@ -55,7 +55,11 @@ void FRMPaciente::build() {
                    label(&dependencia_, QStringLiteral("Dependencia")).bold().grow()})
                 .fill(),
             stretch(),
-            row({stretch(),
+            row({button(nullptr, QStringLiteral("Regresar"), QStringLiteral("<< Regresar"))
+                     .icon(QStringLiteral("previous"))
+                     .escape()
+                     .clicked([this] { reject(); }),
+                 stretch(),
                  button(&boton_, QStringLiteral("Continuar"), QStringLiteral("Continuar >>"))
                      .icon(QStringLiteral("next"))
                      .clicked([this] { continuar(); })}),

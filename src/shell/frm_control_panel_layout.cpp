@@ -246,7 +246,7 @@ form::Item FRMControlPanel::sistema() {
                               .shown(16),
                           &Options::FuenteFinanciamiento),
             sheet_.option(button(nullptr, QStringLiteral("TitulosMayusculas"),
-                                 QStringLiteral("Títulos en Mayúsculas"))
+                                 QStringLiteral("Titulos en Mayusculas"))
                               .with([](Button *button) { button->setCheckable(true); })
                               .hint(QStringLiteral("Hundido: los títulos se imprimen en "
                                                    "mayúsculas")),

@@ -59,6 +59,22 @@ TEST_F(PeopleDialogs, ThePlainPatientGoesOnAtOnce) {
     EXPECT_EQ(chosen->descripcion.toStdString(), "PACIENTE GENERAL");
 }
 
+TEST_F(PeopleDialogs, RegresarAndEscapeLeaveWithoutAClass) {
+    for (const bool escape : {false, true}) {
+        FRMPaciente dialog(station.context);
+        inDialog(&dialog, [&] {
+            typeText("PACIENTE G");
+            press(Qt::Key_Return);
+            if (!escape) {
+                child<QWidget>(&dialog, "Regresar")->setFocus();
+            }
+            press(escape ? Qt::Key_Escape : Qt::Key_Space);
+            EXPECT_FALSE(dialog.isVisible());
+        });
+        EXPECT_FALSE(dialog.choose(nullptr));
+    }
+}
+
 TEST_F(PeopleDialogs, ABenefitNeedsACurrentEmployee) {
     FRMPaciente dialog(station.context);
     inDialog(&dialog, [&] {
