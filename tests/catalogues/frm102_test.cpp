@@ -87,11 +87,11 @@ TEST_F(FRM102Test, AreasGoToAndFroByKeysAlone) {
 }
 
 TEST_F(FRM102Test, RefusedWriteKeepsThoseBeforeIt) {
-    RefusedWrite seam;
+    TestSeam seam;
     station.conexion.setSeam(&seam);
     run(station.clinic(), "delete from serviciosxctro where centro='02'");
     open("CLINICA DE ESP");
-    seam.refuse(3);
+    seam.strike(Moment::BeforeCommit, atWrite(3));
     EXPECT_THROW(child<TwoLists>(screen.get(), "Areas")->addAll(), DatabaseError);
     EXPECT_EQ(stored(), 2);
     EXPECT_EQ(grid("AreasAgregadas")->model()->rowCount(), 2) << "the lists show what stands";
