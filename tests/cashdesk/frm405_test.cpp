@@ -10,6 +10,7 @@
 #include "tests/cashdesk/registered_notes.h"
 #include "tests/support/accessibility.h"
 #include "tests/support/keys.h"
+#include "tests/support/seams.h"
 #include "tests/support/test_station.h"
 #include "toolkit/forms/button.h"
 #include "toolkit/forms/choice.h"
@@ -22,22 +23,6 @@ namespace {
 const QString kNothing = "No existen movimientos registrados a esta fecha.";
 const QString kNoInformation =
     "No existe información para esta caja, revise los parámetros de entrada.";
-
-/// Fails every execution of one statement.
-class FailingSeam final : public Seam {
-public:
-    explicit FailingSeam(QString statement, int after = 0)
-        : statement_(std::move(statement)), after_(after) {}
-    void beforeExecution(const Execution &execution) override {
-        if (execution.name == statement_ && after_-- == 0) {
-            throw DatabaseError("fallo de prueba", {});
-        }
-    }
-
-private:
-    QString statement_;
-    int after_;
-};
 
 class FRM405Test : public ::testing::Test {
 protected:
@@ -438,7 +423,7 @@ TEST_F(FRM405Test, TheAdvancesOfTheDayArePrintedAndNotSubtracted) {
 TEST_F(FRM405Test, AFailureStopsTheCutAndTheNextRunStartsAfresh) {
     store(station.clinic(), of(1, "cajero1"), everyWayToPay());
     open("cajero1");
-    FailingSeam seam("CorteDetallado (insert)", 3);
+    TestSeam seam(Moment::BeforeExecution, atName("CorteDetallado (insert)", 4));
     station.conexion.setSeam(&seam);
     station.messages.expectError("fallo de prueba");
     cutByEnter();
@@ -457,7 +442,7 @@ TEST_F(FRM405Test, AFailureStopsTheCutAndTheNextRunStartsAfresh) {
     child<DateField>(screen.get(), "FechaCorte")->setFocus();
     press(Qt::Key_A, Qt::ControlModifier);
     typeText("19/11/2024");
-    FailingSeam check("Qry405");
+    TestSeam check(Moment::BeforeExecution, atName("Qry405", 1));
     station.conexion.setSeam(&check);
     station.messages.expectError("fallo de prueba");
     press(Qt::Key_Tab);

@@ -9,6 +9,7 @@
 #include "data/database_error.h"
 #include "tests/support/accessibility.h"
 #include "tests/support/keys.h"
+#include "tests/support/seams.h"
 #include "tests/support/test_station.h"
 
 namespace kaldo::test {
@@ -18,36 +19,6 @@ const QString kSound = "La información se encuentra registrada correctamente";
 const QString kCounter = "Se corrigió el consecutivo de notas, vuelva a intentar";
 const QString kRemoved =
     "La última nota se encontró registrada de manera incompleta, vuelva a captarla";
-
-/// Fails one statement once, by its name: a read at once, a write at its commit.
-class FailOnce final : public Seam {
-public:
-    explicit FailOnce(QString statement) : statement_(std::move(statement)) {}
-    void beforeExecution(const Execution &execution) override {
-        if (!execution.writes) {
-            fail(execution);
-        }
-    }
-    void beforeCommit(const Execution &execution) override { fail(execution); }
-    void afterExecution(const Execution &execution) override {
-        if (execution.writes) {
-            written += execution.name;
-        }
-    }
-
-    QStringList written;
-
-private:
-    void fail(const Execution &execution) {
-        if (!failed_ && execution.name == statement_) {
-            failed_ = true;
-            throw DatabaseError("fallo de prueba", {});
-        }
-    }
-
-    QString statement_;
-    bool failed_ = false;
-};
 
 class FRM801Test : public ::testing::Test {
 protected:
@@ -248,7 +219,7 @@ TEST_F(FRM801Test, AnyStepMayFailAndTheNextPressDoesTheRest) {
         const int folio = registerAdmission(1);
         setCounter(1);
         open();
-        FailOnce seam(step);
+        TestSeam seam(Moment::BeforeCommit, atName(step, 1));
         station.conexion.setSeam(&seam);
         if (step == "FolioNota") {
             station.messages.expectInformation(kRemoved);
@@ -292,7 +263,7 @@ TEST_F(FRM801Test, ANumberThatCouldNotBeReadIsReadBeforeAnythingIsRepaired) {
     open();
     registerNote(2, "OTROS SERVICIOS");
     setCounter(3);
-    FailOnce seam("UltimaNota");
+    TestSeam seam(Moment::BeforeExecution, atName("UltimaNota", 1));
     station.conexion.setSeam(&seam);
     EXPECT_THROW(dialog.activated(), DatabaseError);
     station.conexion.setSeam(nullptr);

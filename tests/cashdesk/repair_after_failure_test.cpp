@@ -4,25 +4,10 @@
 
 #include "tests/payments/desk.h"
 #include "tests/support/keys.h"
+#include "tests/support/seams.h"
 
 namespace kaldo::test {
 namespace {
-
-/// Fails the call of one ordinal and writes down the names of all.
-class FailAt final : public Seam {
-public:
-    explicit FailAt(int call) : call_(call) {}
-    void beforeExecution(const Execution &execution) override {
-        names += execution.name;
-        if (names.size() == call_) {
-            throw std::runtime_error("fault");
-        }
-    }
-    QStringList names;
-
-private:
-    int call_;
-};
 
 /// A registration that stops at any of its calls, the repair by the screen, and the note again.
 TEST(RepairAfterFailure, TheNoteCanBeEnteredAgain) {
@@ -43,17 +28,17 @@ TEST(RepairAfterFailure, TheNoteCanBeEnteredAgain) {
     };
 
     const int folio = records.folio();
-    FailAt none(0);
+    TestSeam none;
     desk.local.Recibos.open();
     const NoteDraft first = admission();
     desk.conexion.setSeam(&none);
     ASSERT_TRUE(desk.registers(first, paid(first)));
     desk.conexion.setSeam(nullptr);
     const QString whole = records.ofNote(1, first.notaActual, folio);
-    for (int call = 1; call <= none.names.size(); ++call) {
-        SCOPED_TRACE(none.names[call - 1].toStdString());
+    for (int call = 1; call <= none.begun.size(); ++call) {
+        SCOPED_TRACE(none.begun[call - 1].toStdString());
         const NoteDraft draft = admission();
-        FailAt fault(call);
+        TestSeam fault(Moment::BeforeExecution, atCall(call));
         desk.conexion.setSeam(&fault);
         EXPECT_TRUE(desk.fails(draft, paid(draft)));
         desk.conexion.setSeam(nullptr);

@@ -1,4 +1,5 @@
 #include "tests/payments/frm401_fixture.h"
+#include "tests/support/seams.h"
 
 #include "toolkit/forms/choice.h"
 #include "toolkit/forms/data_grid.h"
@@ -6,21 +7,15 @@
 namespace kaldo {
 namespace {
 
+using test::atWrite;
 using test::child;
 using test::hold;
+using test::Moment;
 using test::picture;
 using test::press;
+using test::refusing;
+using test::TestSeam;
 using test::typeText;
-
-/// Refuses whatever would be written.
-class FullDisk final : public Seam {
-public:
-    void beforeCommit(const Execution &execution) override {
-        if (execution.writes) {
-            throw std::runtime_error("No hay espacio en el disco.");
-        }
-    }
-};
 
 class PaymentNoteLines : public test::PaymentNoteFixture {
 protected:
@@ -268,7 +263,7 @@ TEST_F(PaymentNoteLines, CancellingAndDeletingGiveTheListsBack) {
     press(Qt::Key_Delete, Qt::ControlModifier);
     EXPECT_EQ(stored().size(), 2);
     // A line that stays in the table stays on the screen.
-    FullDisk full;
+    TestSeam full(Moment::BeforeCommit, atWrite(), refusing("No hay espacio en el disco."));
     station.conexion.FBLocal.setSeam(&full);
     station.messages.expectConfirmation("¿Desea borrar este concepto?", Answer::Yes);
     station.messages.expectError("No hay espacio en el disco.");

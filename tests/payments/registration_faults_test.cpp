@@ -1,4 +1,5 @@
 #include "tests/payments/desk.h"
+#include "tests/support/seams.h"
 
 #include "toolkit/core/log.h"
 
@@ -15,37 +16,11 @@
 namespace kaldo {
 namespace {
 
+using test::atCall;
 using test::Desk;
+using test::Moment;
 using test::paidWith;
-
-/// Where in an execution something goes wrong.
-enum class Moment { BeforeExecution, BeforeCommit, AfterCommit };
-
-/// Makes the call of one ordinal go wrong, counted from the first one that it sees.
-class Fault : public Seam {
-public:
-    Fault(int call, Moment moment, std::function<void()> strike)
-        : call_(call), moment_(moment), strike_(std::move(strike)) {}
-
-    void beforeExecution(const Execution &) override {
-        ++calls_;
-        strikeAt(Moment::BeforeExecution);
-    }
-    void beforeCommit(const Execution &) override { strikeAt(Moment::BeforeCommit); }
-    void afterExecution(const Execution &) override { strikeAt(Moment::AfterCommit); }
-
-private:
-    void strikeAt(Moment moment) {
-        if (calls_ == call_ && moment == moment_) {
-            strike_();
-        }
-    }
-
-    int call_;
-    Moment moment_;
-    std::function<void()> strike_;
-    int calls_ = 0;
-};
+using test::TestSeam;
 
 /// What a good registration does: its calls, and what stands after each of them.
 struct GoodRun {
@@ -59,18 +34,6 @@ struct GoodRun {
 
     /// What stands when the first `done` calls have been committed.
     QString standsAfter(qsizetype done) const { return done == 0 ? before : calls[done - 1].after; }
-};
-
-class Watch : public Seam {
-public:
-    explicit Watch(std::function<QString()> look) : look_(std::move(look)) {}
-    void afterExecution(const Execution &execution) override {
-        run.calls.append({execution.name, execution.writes, look_()});
-    }
-    GoodRun run;
-
-private:
-    std::function<QString()> look_;
 };
 
 NoteDraft admissionNote(Desk &desk) {
@@ -93,12 +56,17 @@ protected:
 
     GoodRun watch(Desk &desk, const NoteDraft &draft) {
         folio = records.folio();
-        Watch watch([&] { return stands(draft); });
-        watch.run.before = stands(draft);
+        GoodRun run;
+        run.before = stands(draft);
+        TestSeam watch(
+            Moment::AfterExecution, [](const Execution &, int) { return true; },
+            [&](const Execution &done) {
+                run.calls.append({done.name, done.writes, stands(draft)});
+            });
         desk.conexion.setSeam(&watch);
         EXPECT_TRUE(desk.registers(draft, paid(draft)));
         desk.conexion.setSeam(nullptr);
-        return watch.run;
+        return run;
     }
 
     void failAtEachCall(NoteDraft (*make)(Desk &));
@@ -125,7 +93,7 @@ void RegistrationFaults::failAtEachCall(NoteDraft (*make)(Desk &)) {
             const NoteDraft draft = make(desk);
             folio = records.folio();
             const int printed = static_cast<int>(desk.printing.records.size());
-            Fault fault(call, moment, [] { throw std::runtime_error("fault"); });
+            TestSeam fault(moment, atCall(call));
             desk.conexion.setSeam(&fault);
             EXPECT_TRUE(desk.fails(draft, paid(draft)));
             desk.conexion.setSeam(nullptr);
@@ -210,9 +178,9 @@ TEST(RegistrationChild, RegistersUntilItIsKilled) {
     Desk desk(root);
     desk.local.Recibos.open();
     const NoteDraft draft = admissionNote(desk);
-    Fault fault(qEnvironmentVariableIntValue(kCall),
-                static_cast<Moment>(qEnvironmentVariableIntValue(kMoment)),
-                [] { ::kill(::getpid(), SIGKILL); });
+    TestSeam fault(static_cast<Moment>(qEnvironmentVariableIntValue(kMoment)),
+                   atCall(qEnvironmentVariableIntValue(kCall)),
+                   [](const Execution &) { ::kill(::getpid(), SIGKILL); });
     desk.conexion.setSeam(&fault);
     EXPECT_TRUE(desk.registers(draft, paid(draft)));
     desk.conexion.setSeam(nullptr);
@@ -243,7 +211,7 @@ TEST_F(RegistrationFaults, KilledAtEachCallOfAnAdmissionNote) {
     }
     for (int call = 1; call <= good.calls.size(); ++call) {
         for (const Moment moment :
-             {Moment::BeforeExecution, Moment::BeforeCommit, Moment::AfterCommit}) {
+             {Moment::BeforeExecution, Moment::BeforeCommit, Moment::AfterExecution}) {
             const GoodRun::Call &struck = good.calls[call - 1];
             if (!struck.writes && moment != Moment::BeforeExecution) {
                 continue;
@@ -254,7 +222,7 @@ TEST_F(RegistrationFaults, KilledAtEachCallOfAnAdmissionNote) {
             records.clinic.close();
             records.finance.close();
             ASSERT_TRUE(killChild(files.root(), call, moment));
-            const int done = moment == Moment::AfterCommit ? call : call - 1;
+            const int done = moment == Moment::AfterExecution ? call : call - 1;
             EXPECT_EQ(records.ofNote(1, nota, folio), good.standsAfter(done));
             if (done == good.calls.size()) {
                 ++nota;

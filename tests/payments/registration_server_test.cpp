@@ -1,6 +1,7 @@
 #include "data/database_error.h"
 #include "tests/payments/desk.h"
 #include "tests/support/private_server.h"
+#include "tests/support/seams.h"
 
 #include <gtest/gtest.h>
 
@@ -10,26 +11,13 @@
 namespace kaldo {
 namespace {
 
+using test::atName;
 using test::Desk;
+using test::Moment;
 using test::paidWith;
 using test::PrivateServer;
 using test::Records;
-
-/// Runs something just before the execution of a name.
-class Before : public Seam {
-public:
-    Before(QString name, std::function<void()> act)
-        : name_(std::move(name)), act_(std::move(act)) {}
-    void beforeExecution(const Execution &execution) override {
-        if (execution.name == name_) {
-            act_();
-        }
-    }
-
-private:
-    QString name_;
-    std::function<void()> act_;
-};
+using test::TestSeam;
 
 /// Does this when a call makes the cashier wait; true gives the call up.
 class Patient : public WaitObserver {
@@ -67,7 +55,8 @@ TEST(RegistrationOnServer, TwoDesksRegisterAndSurviveWhatHappensToTheServer) {
     const QString whole = records->ofNote(1, 2, folio + 2);
 
     // The server dies; the same desk goes on with the one that comes after it.
-    Before dying("sp_registrametodopago", [&] { server.kill(); });
+    TestSeam dying(Moment::BeforeExecution, atName("sp_registrametodopago"),
+                   [&](const Execution &) { server.kill(); });
     NoteDraft draft = admissionNote(*desk);
     desk->conexion.setSeam(&dying);
     QElapsedTimer clock;
@@ -85,11 +74,13 @@ TEST(RegistrationOnServer, TwoDesksRegisterAndSurviveWhatHappensToTheServer) {
     records->repair(1, 3);
 
     // Another station ends the attachment in the middle.
-    Before ending("sp_registrametodopago", [&] {
-        test::run(records->clinic,
-                  "delete from mon$attachments where mon$attachment_id <> current_connection and "
-                  "mon$system_flag = 0");
-    });
+    TestSeam ending(
+        Moment::BeforeExecution, atName("sp_registrametodopago"), [&](const Execution &) {
+            test::run(
+                records->clinic,
+                "delete from mon$attachments where mon$attachment_id <> current_connection and "
+                "mon$system_flag = 0");
+        });
     draft = admissionNote(*desk);
     EXPECT_EQ(draft.notaActual, 3);
     desk->conexion.setSeam(&ending);
@@ -99,7 +90,8 @@ TEST(RegistrationOnServer, TwoDesksRegisterAndSurviveWhatHappensToTheServer) {
     records->repair(1, 3);
 
     // It stops answering in the middle, and goes on while the cashier waits.
-    Before freezing("sp_registrametodopago", [&] { server.freeze(); });
+    TestSeam freezing(Moment::BeforeExecution, atName("sp_registrametodopago"),
+                      [&](const Execution &) { server.freeze(); });
     Patient patient([&] {
         server.thaw();
         return false;

@@ -2,6 +2,7 @@
 
 #include "payments/receipt_layout.h"
 #include "tests/payments/desk.h"
+#include "tests/support/seams.h"
 #include "toolkit/report/paint.h"
 
 #include <gtest/gtest.h>
@@ -11,8 +12,11 @@
 namespace kaldo {
 namespace {
 
+using test::atName;
 using test::Desk;
+using test::Moment;
 using test::paidWith;
+using test::TestSeam;
 
 class Registering : public ::testing::Test {
 protected:
@@ -239,27 +243,12 @@ TEST_F(Registering, TwoSessionsOnOneDeskMeetTheNumberOfTheFirst) {
     EXPECT_TRUE(other.printing.records.isEmpty());
 }
 
-/// Lets another desk register at one moment of this one's registration.
-class Meanwhile : public Seam {
-public:
-    Meanwhile(QString before, std::function<void()> act)
-        : before_(std::move(before)), act_(std::move(act)) {}
-    void beforeExecution(const Execution &execution) override {
-        if (execution.name == before_) {
-            act_();
-        }
-    }
-
-private:
-    QString before_;
-    std::function<void()> act_;
-};
-
 TEST_F(Registering, TwoStationsThatAdmitAtTheSameMomentKeepTheirFolios) {
     Desk other(files.root(), 12);
     const int folio = records.folio();
     const NoteDraft mine = desk.note("AD - ADMISION", 1, {1});
-    Meanwhile seam("registra_admision_p", [&] {
+    // Another desk registers at one moment of this one's registration.
+    TestSeam seam(Moment::BeforeExecution, atName("registra_admision_p"), [&](const Execution &) {
         const NoteDraft theirs = other.note("AD - ADMISION", 1, {1});
         EXPECT_TRUE(other.registers(theirs, paidWith(theirs, 0, 0, theirs.importeTotal)));
     });

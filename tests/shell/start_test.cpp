@@ -1,4 +1,5 @@
 #include "tests/shell/shell_station.h"
+#include "tests/support/seams.h"
 
 #include "shell/frm_inicio_splash.h"
 #include "shell/main_skin.h"
@@ -185,19 +186,13 @@ TEST(Start, SplashStandsUntilTheLoginComes) {
 }
 
 TEST(Start, IniFileThatCannotBeWrittenIsToldWhenTheSplashHasGone) {
-    /// Takes the file's folder away once the main window has read it.
-    class FolderGoes : public Seam {
-    public:
-        void afterExecution(const Execution &) override {
-            if (QFileInfo(folder).isDir()) {
-                QDir(folder).removeRecursively();
-                overwrite(folder, "x");
-            }
-        }
-        QString folder;
-    } seam;
     ShellStation station;
-    seam.folder = station.installation.root() + "/Ini";
+    const QString folder = station.installation.root() + "/Ini";
+    // Takes the file's folder away once the main window has read it.
+    TestSeam seam(Moment::AfterExecution, atCall(1), [folder](const Execution &) {
+        QDir(folder).removeRecursively();
+        overwrite(folder, "x");
+    });
     station.seam = &seam;
     station.splash = std::chrono::milliseconds(100);
     ASSERT_TRUE(station.start());

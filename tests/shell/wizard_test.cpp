@@ -5,6 +5,7 @@
 #include "data/database_error.h"
 #include "shell/clinic_setup.h"
 #include "tests/support/accessibility.h"
+#include "tests/support/seams.h"
 #include "toolkit/forms/form.h"
 
 namespace kaldo::test {
@@ -15,29 +16,19 @@ const QString kPrices = QStringLiteral(
     "¿El Catálogo de conceptos no tiene registrado ningún precio, desea analizar la lista de "
     "precios? ");
 
-/// Notes what is written, and refuses the first write of one name.
-class Writes final : public Seam {
-public:
-    void beforeCommit(const Execution &execution) override {
-        if (!execution.writes) {
-            return;
-        }
-        const QString name = execution.name.section(u' ', 0, 0);
-        if (name == refused) {
-            refused.clear();
-            throw DatabaseError("El servidor no contesta.",
-                                {DatabaseFailure::Other, {}, 0, {}, execution.connection, {}});
-        }
-        names += name;
-    }
-    QStringList names;
-    QString refused;
-};
-
 /// A clinic without a single row of its own, at the wizard that its first login brings up.
 class Wizard : public ::testing::Test {
 protected:
     Wizard() { station.seam = &writes; }
+
+    /// The tables that were written, and the routines.
+    QString written() const {
+        QStringList names;
+        for (const QString &name : writes.written) {
+            names += name.section(u' ', 0, 0);
+        }
+        return names.join(u' ');
+    }
 
     FRMInicioFirebird &wizard() {
         return *child<FRMInicioFirebird>(&station.window(), "FRMInicioFirebird");
@@ -48,7 +39,7 @@ protected:
             typeText("admin");
             press(Qt::Key_Return);
             typeText("admin");
-            writes.names.clear();
+            writes.written.clear();
             station.inDialog(
                 wizard(), [] { press(Qt::Key_Return); }, steps);
         });
@@ -105,7 +96,7 @@ protected:
         return cells.join(u'|');
     }
 
-    Writes writes;
+    TestSeam writes;
     ShellStation station{TestInstallation::Content::Empty};
 };
 
@@ -154,11 +145,11 @@ TEST_F(Wizard, EmptyClinicIsReadyForItsCashier) {
         EXPECT_TRUE(ticked("TickClasificacion"));
         picture(&wizard(), "wizard3");
         checkAccessibility(wizard());
-        writes.names.clear();
+        writes.written.clear();
         station.messages.expectConfirmation(kPrices, Answer::Yes);
         alt(Qt::Key_T);
     });
-    EXPECT_EQ(writes.names.join(u' '),
+    EXPECT_EQ(written(),
               "CtroAtencion DatosCaja ControlExpediente ControlExpediente ControlUsuarios "
               "ControlUsuarios ClasifServicios ClasifServicios Usuarios_Mant Usuarios_Mant "
               "cg_usuario");
@@ -199,7 +190,6 @@ TEST_F(Wizard, EmptyClinicIsReadyForItsCashier) {
     EXPECT_FALSE(station.stillOpen);
     EXPECT_EQ(station.session().NumCaja, 7);
     EXPECT_EQ(station.session().CentroDescr.text(), "Clínica Central");
-    EXPECT_EQ(station.session().Campus.text(), "2");
     EXPECT_TRUE(station.enabled("E1") && station.enabled("E6"));
 }
 
@@ -258,16 +248,17 @@ TEST_F(Wizard, FailureLeavesTheEarlierRowsAndGoesOnFromThere) {
         enter("ana");
         alt(Qt::Key_S);
         alt(Qt::Key_S);
-        writes.refused = "cg_usuario";
+        writes.strike(Moment::BeforeCommit, atName("cg_usuario (insert)", 1),
+                      refusing("El servidor no contesta."));
         station.messages.expectError("El servidor no contesta.");
         alt(Qt::Key_T);
         station.messages.verify();
         EXPECT_EQ(row("select count(*) from usuarios_m"), "2");
-        writes.names.clear();
+        writes.written.clear();
         station.messages.expectConfirmation(kPrices, Answer::No);
         alt(Qt::Key_T);
     });
-    EXPECT_EQ(writes.names.join(u' '), "cg_usuario");
+    EXPECT_EQ(written(), "cg_usuario");
     EXPECT_EQ(row("select usuario, campus from controlusuarios order by 1"), "admin|3|ana|3");
 }
 

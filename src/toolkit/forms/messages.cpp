@@ -87,8 +87,7 @@ private:
         texts->setSpacing(10);
         texts->addWidget(paragraph(QStringLiteral("messageText"), message.text));
         if (!message.detail.isEmpty()) {
-            QLabel *detail = paragraph(QStringLiteral("messageDetail"), message.detail);
-            texts->addWidget(detail);
+            texts->addWidget(paragraph(QStringLiteral("messageDetail"), message.detail));
         }
         line->addLayout(texts, 1);
         line->setAlignment(texts, Qt::AlignVCenter);
