@@ -17,13 +17,13 @@ constexpr double kBar = 50;
 ReceiptContent sampleReceipt() {
     NoteDraft draft;
     draft.notaActual = 1532;
-    draft.servicio = QStringLiteral("AL - ALUMNOS");
-    draft.tipoServ = QStringLiteral("AL");
-    draft.cadenaServicio = QStringLiteral("ALUMNOS");
-    draft.area = {8, QStringLiteral("ALUMNOS"), QStringLiteral("N")};
+    draft.service.row = QStringLiteral("AL - ALUMNOS");
+    draft.service.tipoServ = QStringLiteral("AL");
+    draft.service.cadenaServicio = QStringLiteral("ALUMNOS");
+    draft.service.area = {8, QStringLiteral("ALUMNOS"), QStringLiteral("N")};
     draft.centroLabel = QStringLiteral("Clínica de licenciatura valle norte");
-    draft.matricula = QStringLiteral("1100001");
-    draft.alumno = QStringLiteral("ALVAREZ CANO JIMENA");
+    draft.payer.matricula = QStringLiteral("1100001");
+    draft.payer.alumno = QStringLiteral("ALVAREZ CANO JIMENA");
     for (int at = 1; at <= 6; ++at) {
         NoteLine line;
         line.cant = at;
@@ -31,11 +31,11 @@ ReceiptContent sampleReceipt() {
         line.total = at * line.precio;
         line.descripcion = QStringLiteral("PRACTICA DE CLINICA EXTRAORDINARIA %1").arg(at);
         draft.lines += line;
-        draft.importeTotal += line.total;
+        draft.amounts.importeTotal += line.total;
     }
     Payment payment;
     payment.pesos = 5000;
-    payment.importeTotal = payment.importeAPagar = draft.importeTotal;
+    payment.importeTotal = payment.importeAPagar = draft.amounts.importeTotal;
     payment.subtotal = payment.pesos;
     payment.cambio = payment.pesos - payment.importeTotal;
     payment.tipoCam = 19.5;

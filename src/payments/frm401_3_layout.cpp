@@ -151,6 +151,7 @@ void FRM401_3::build() {
         box->setKeyHandler(Qt::Key_Up, [this, box] { focusTender(box, -1); });
         box->setKeyHandler(Qt::Key_Down, [this, box] { focusTender(box, 1); });
     }
+    CEdit7_->installEventFilter(this);
     for (const char *heading : {"CEdit8_label", "CEdit9_label", "CEdit10_label"}) {
         auto *caption = findChild<QLabel *>(QLatin1String(heading));
         QFont font = caption->font();

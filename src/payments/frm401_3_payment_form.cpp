@@ -10,14 +10,17 @@ FRM401_3::FRM401_3(Context &context)
     : Dialog(context, QStringLiteral("FRM401_3"), QStringLiteral("Forma de Pago")),
       receipt_(context) {}
 
-Payment FRM401_3::pay(const NoteDraft &draft, ScreenBase *opener) {
+std::optional<AcceptedPayment> FRM401_3::pay(const NoteDraft &draft, ScreenBase *opener) {
     draft_ = draft;
     if (skipsDialog(draft_)) {
         context().caja.TipoCambio.open();
-        return skippedPayment(draft_, context().caja.TipoCambio.number(QStringLiteral("tipo_cam")));
+        const double rate = context().caja.TipoCambio.number(QStringLiteral("tipo_cam"));
+        return AcceptedPayment{draft_, skippedPayment(draft_, rate)};
     }
-    showModal(opener);
-    return payment_;
+    if (showModal(opener) != Accepted) {
+        return std::nullopt;
+    }
+    return AcceptedPayment{draft_, payment_};
 }
 
 void FRM401_3::activated() {
@@ -36,10 +39,10 @@ void FRM401_3::activated() {
     showLayout();
     moveFocus(CEdit4_);
     Totales();
-    if (draft_.porcPrestacion > 0) {
+    if (draft_.benefit.porcPrestacion > 0) {
         moveFocus(CEdit4_);
     }
-    if (draft_.area.takesAdvances()) {
+    if (draft_.service.area.takesAdvances()) {
         // Asked over the dialog, so that the cashier sees the amounts.
         QTimer::singleShot(0, this, guarded([this] { preguntarAnticipo(); }));
     }
@@ -90,7 +93,7 @@ void FRM401_3::showLayout() {
     PanelAnticipo_->setVisible(payment_.anticipoPanelShown);
     PanelPrestacion_->setVisible(payment_.prestacionPanelShown);
     RadioGroup2_->setVisible(payment_.tipoDeTarjeta != CardKind::None);
-    LabelPrestacion_->setText(draft_.prestacionLabel);
+    LabelPrestacion_->setText(draft_.benefit.label());
     adjustSize();
 }
 
@@ -111,6 +114,14 @@ void FRM401_3::acceptable(bool enabled) {
     ImprimirRecibo_->setEnabled(enabled && ready_);
 }
 
+/// What was painted has been seen, but while the mouse holds the button down for a press.
+bool FRM401_3::eventFilter(QObject *watched, QEvent *event) {
+    if (watched == CEdit7_ && event->type() == QEvent::Paint && !ImprimirRecibo_->isDown()) {
+        seen_ = CEdit7_->value();
+    }
+    return Dialog::eventFilter(watched, event);
+}
+
 void FRM401_3::readBoxes() {
     payment_.tarjetaCredito = CEdit2_->value();
     payment_.dolares = CEdit3_->value();
@@ -122,14 +133,9 @@ void FRM401_3::readBoxes() {
 }
 
 void FRM401_3::Totales() {
-    const double before = payment_.subtotal;
     readBoxes();
     recomputeTotals(&payment_);
     showTotals();
-    if (payment_.subtotal != before) {
-        unseen_ = true;
-        QTimer::singleShot(0, this, [this] { unseen_ = ImprimirRecibo_->isDown(); });
-    }
     acceptable(nothingMissing(payment_));
     if (ImprimirRecibo_->isEnabled()) {
         moveFocus(ImprimirRecibo_);
@@ -271,11 +277,10 @@ void FRM401_3::imprimirRecibo() {
         return;
     }
     Totales();
-    if (std::exchange(unseen_, false)) {
+    if (std::exchange(seen_, payment_.subtotal) != payment_.subtotal) {
         return;  // pressed from a box, by letter or mouse: the new totals are to be seen first
     }
     if (ready_ && isEnough(payment_)) {
-        payment_.confirmado = true;
         accept();
     } else {
         acceptable(false);

@@ -7,9 +7,19 @@
 #include "payments/tender.h"
 #include "toolkit/forms/form.h"
 
+#include <optional>
+
 namespace kaldo {
 
-/// "Forma de Pago": the cashier says how a note is paid. It writes nothing to any database.
+/// A note as the cashier agreed it with the payer. An advance changes the amounts of the note and
+/// the shares of its lines.
+struct AcceptedPayment {
+    NoteDraft note;
+    Payment payment;
+};
+
+/// "Forma de Pago": the cashier says how a note is paid. It writes nothing to any database and
+/// touches no other screen: what was agreed is its answer.
 ///
 /// The amounts live in a Payment; the boxes show it and are read back into it by Totales(), the
 /// only place that decides whether the payment is enough.
@@ -19,9 +29,9 @@ class FRM401_3 : public Dialog {
 public:
     explicit FRM401_3(Context &context);
 
-    /// Asks how a new note is paid; `confirmado` tells whether the cashier accepted. A note that
-    /// the benefit covers whole on AE, AP or LE is accepted without showing the dialog.
-    Payment pay(const NoteDraft &draft, ScreenBase *opener);
+    /// Asks how a new note is paid; unset when the cashier left without accepting. A note that the
+    /// benefit covers whole on AE, AP or LE is accepted without showing the dialog.
+    std::optional<AcceptedPayment> pay(const NoteDraft &draft, ScreenBase *opener);
 
     /// The receipt belongs to the dialog, and remembers what the last print left in it.
     ReceiptPrinter &receipt() { return receipt_; }
@@ -29,6 +39,7 @@ public:
 protected:
     void build() override;
     void activated() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     // Widgets
@@ -70,8 +81,8 @@ private:
     ReceiptPrinter receipt_;
     NoteDraft draft_;
     Payment payment_;
-    bool ready_ = false;   ///< the rate is known and the amounts are this note's
-    bool unseen_ = false;  ///< the totals changed at this very stroke
+    bool ready_ = false;  ///< the rate is known and the amounts are this note's
+    double seen_ = 0;     ///< "Subtotal" as the eye had it when the button was pressed
 
     QGroupBox *GroupBox1_ = nullptr;
     QGroupBox *GroupBox2_ = nullptr;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/core/text.h"
+#include "people/new_admission.h"
 
 #include <QDate>
 #include <QList>
@@ -29,41 +29,36 @@ struct NoteLine {
     double porcentaje = 0;  ///< share of an advance in this line, in pesos
 };
 
-/// The row of `serviciosxctros` that the cashier chose.
+/// A row of `serviciosxctros`.
 struct SalesArea {
     int tipoProd = 0;
     QString descr;
     QString anticipo;  ///< "S" where the area takes advances
+    int edadMin = 0;   ///< whose dossiers it lists, in years
+    int edadMax = 0;
 
     bool takesAdvances() const { return anticipo == QLatin1String("S"); }
 };
 
-/// The open row of `Prestaciones1`; 0 while the query is closed or empty.
+/// What is sold: the service type, its sales area and, where the area has some, the place of care.
+struct Service {
+    QString row;             ///< the whole row of "Tipo de Servicio": "AD - ADMISION"
+    QString tipoServ;        ///< its two letters
+    QString cadenaServicio;  ///< its words, at most 80
+    SalesArea area;
+    bool lugarShown = false;  ///< the area has places of care
+    QString lugarArea;        ///< `AreaAtencion.AREA` of the place, empty without one
+    QString lugarDescr;
+};
+
+/// A row of `Prestaciones`; 0 where there is none.
 struct PatientType {
     int prestacion = 0;
     QString descripcion;
 };
 
-enum class Sex { Unset, Femenino, Masculino };
-
-/// What registration and receipt need of the payment note's screen, copied once when the cashier
-/// pays. Texts stand as the fields hold them: neither trimmed nor cut.
-struct NoteDraft {
-    NoteMode mode = NoteMode::Registrar;
-    int notaActual = 0;
-    QDate fecha;
-
-    QString servicio;        ///< the whole row of "Tipo de Servicio": "AD - ADMISION"
-    QString tipoServ;        ///< its two letters
-    QString cadenaServicio;  ///< its words, at most 80
-    QString tipoServNota;    ///< first three letters of a consulted note's `tipo_serv`
-    SalesArea area;
-    QString centroLabel;  ///< the label "Centro:" of the heading
-
-    bool lugarShown = false;  ///< the strip "Lugar de Atención" is shown
-    QString lugarArea;        ///< `AreaAtencion.AREA` of the place, empty without one
-    QString lugarDescr;
-
+/// Who pays. Texts stand as they were typed or looked up: neither trimmed nor cut.
+struct Payer {
     QString expediente;
     int folioAdmision = 0;
     QString paterno;
@@ -80,24 +75,11 @@ struct NoteDraft {
     QString empleadoLabel;  ///< number, blank, name
     QString dependenciaLabel;
 
-    PatientType tipoPacienteRow;
-    int porcPrestacion = 0;  ///< whole percent
-    int prestacionExpediente = 0;
-    QString prestacionLabel = QStringLiteral("Prestación");
+    PatientType tipoPaciente;
+    int prestacionExpediente = 0;  ///< `expedientes.prestacion`, 0 without a dossier
 
-    bool nacimientoShown = false;  ///< the strip with the date of birth is shown
-    int edad = 0;
-    QString tipoPaciente;  ///< "I" or "A"
-    QDate fechaNac;
+    std::optional<Birth> nacimiento;  ///< of an admission that was asked for it
     Sex sexo = Sex::Unset;
-
-    double prestacion = 0;    ///< the screen's "Prestación"
-    double iva = 0;           ///< the screen's "IVA"
-    double importeTotal = 0;  ///< the screen's "Importe Total"
-    bool pagoAnticipoShown = false;
-    double pagoAnticipo = 0;
-
-    QList<NoteLine> lines;
 
     /// Neither a blank matricula nor "0" is a student.
     bool hasStudent() const {
@@ -106,6 +88,41 @@ struct NoteDraft {
     }
     bool hasDossier() const { return !expediente.trimmed().isEmpty(); }
     bool hasEmployeeNumber() const { return !noEmpleado.trimmed().isEmpty(); }
+};
+
+/// The share of the price that somebody else bears.
+struct Benefit {
+    int porcPrestacion = 0;  ///< whole percent
+
+    /// How amounts covered by it are captioned: "Prestación 50 %".
+    QString label() const {
+        return porcPrestacion > 0 ? QStringLiteral("Prestación %1 %").arg(porcPrestacion)
+                                  : QStringLiteral("Prestación");
+    }
+};
+
+/// The amounts that the screen shows, in pesos.
+struct NoteAmounts {
+    double prestacion = 0;
+    double iva = 0;
+    double importeTotal = 0;
+    bool pagoAnticipoShown = false;
+};
+
+/// One payment note as a value, on its way from the screen through the payment dialog to
+/// registration and receipt. Each part was filled when the cashier chose or accepted it.
+struct NoteDraft {
+    NoteMode mode = NoteMode::Registrar;
+    int notaActual = 0;
+    QDate fecha;
+    QString centroLabel;   ///< the label "Centro:" of the heading
+    QString tipoServNota;  ///< first three letters of a consulted note's `tipo_serv`
+
+    Service service;
+    Payer payer;
+    Benefit benefit;
+    NoteAmounts amounts;
+    QList<NoteLine> lines;
 };
 
 }  // namespace kaldo

@@ -35,7 +35,6 @@ struct Payment {
 
     double tipoCam = 0;  ///< pesos per dollar that the dialog works with
     Money dolaresEnPesos;
-    bool confirmado = false;
 };
 
 }  // namespace kaldo

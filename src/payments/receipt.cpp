@@ -33,10 +33,10 @@ void fillHeading(ReceiptContent *content, const ReceiptOptions &options) {
 
 void fillService(ReceiptContent *content, const NoteDraft &draft) {
     content->QRL8a = draft.centroLabel.toUpper();
-    content->QRL9A = draft.cadenaServicio;
-    content->QRL10a = draft.area.descr;
-    content->lugarShown = draft.lugarShown;
-    content->QRL11a = draft.lugarShown ? draft.lugarDescr : QString();
+    content->QRL9A = draft.service.cadenaServicio;
+    content->QRL10a = draft.service.area.descr;
+    content->lugarShown = draft.service.lugarShown;
+    content->QRL11a = draft.service.lugarShown ? draft.service.lugarDescr : QString();
 }
 
 QString policyText(const NoteDraft &draft, const RegisteredNote &note,
@@ -59,45 +59,45 @@ QString admissionText(const std::optional<int> &folio) {
 
 /// The two identity lines. True when student or employee already stand in them.
 bool fillIdentity(ReceiptContent *content, const NoteDraft &draft, const ReceiptExtras &extras) {
-    if (draft.hasDossier()) {
-        content->QRL16 = QStringLiteral("EXPEDIENTE: ") + draft.expediente;
-        if (draft.folioAdmision > 0) {
-            content->QRL16a = admissionText(draft.folioAdmision);
+    if (draft.payer.hasDossier()) {
+        content->QRL16 = QStringLiteral("EXPEDIENTE: ") + draft.payer.expediente;
+        if (draft.payer.folioAdmision > 0) {
+            content->QRL16a = admissionText(draft.payer.folioAdmision);
         }
-        content->QRL17 = studentName(draft.paterno, draft.materno, draft.nombre);
+        content->QRL17 = studentName(draft.payer.paterno, draft.payer.materno, draft.payer.nombre);
         return false;
     }
-    if (draft.hasStudent()) {
-        content->QRL16 = QStringLiteral("MATRICULA: ") + draft.matricula.trimmed();
-        content->QRL17 = draft.alumno.trimmed();
+    if (draft.payer.hasStudent()) {
+        content->QRL16 = QStringLiteral("MATRICULA: ") + draft.payer.matricula.trimmed();
+        content->QRL17 = draft.payer.alumno.trimmed();
         return true;
     }
-    if (!receiptNamesPayer(draft.tipoServ)) {
+    if (!receiptNamesPayer(draft.service.tipoServ)) {
         content->identified = false;
         return false;
     }
-    if (draft.hasEmployeeNumber()) {
-        content->QRL16 = QStringLiteral("EMPLEADO: ") + draft.noEmpleado.trimmed();
-        content->QRL17 = draft.nombreEmpleado.trimmed();
+    if (draft.payer.hasEmployeeNumber()) {
+        content->QRL16 = QStringLiteral("EMPLEADO: ") + draft.payer.noEmpleado.trimmed();
+        content->QRL17 = draft.payer.nombreEmpleado.trimmed();
         return true;
     }
     content->QRL16 = QStringLiteral("NOMBRE: ");
-    content->QRL17 = studentName(draft.paterno, draft.materno, draft.nombre);
-    if (draft.tipoServ == QLatin1String("AD")) {
+    content->QRL17 = studentName(draft.payer.paterno, draft.payer.materno, draft.payer.nombre);
+    if (draft.service.tipoServ == QLatin1String("AD")) {
         content->QRL16a = admissionText(extras.folioAdmision);
     }
     return false;
 }
 
 void fillMemo(ReceiptContent *content, const NoteDraft &draft) {
-    if (!draft.empleadoPanelShown) {
+    if (!draft.payer.empleadoPanelShown) {
         return;
     }
-    content->memoHigh = !draft.hasDossier() && !draft.hasStudent();
+    content->memoHigh = !draft.payer.hasDossier() && !draft.payer.hasStudent();
     content->QRMemo1 = QStringList{
-        QStringLiteral("Empleado:"), draft.empleadoLabel, QStringLiteral("Dependencia:"),
-        draft.dependenciaLabel,
-        QStringLiteral("***") + draft.tipoPacienteRow.descripcion + QStringLiteral("***")};
+        QStringLiteral("Empleado:"), draft.payer.empleadoLabel, QStringLiteral("Dependencia:"),
+        draft.payer.dependenciaLabel,
+        QStringLiteral("***") + draft.payer.tipoPaciente.descripcion + QStringLiteral("***")};
 }
 
 QList<ReceiptLine> printedLines(const NoteDraft &draft, const ReceiptOptions &options) {
@@ -121,7 +121,7 @@ void fillReceived(ReceiptContent *content, const NoteDraft &draft, const Payment
     content->QRL31 = {QStringLiteral("CHEQUE"), formatMoney(payment.cheque)};
     content->QRL32 = {QStringLiteral("CAMBIO"), formatMoney(payment.cambio)};
     content->QRL33 = QStringLiteral("TIPO DE CAMBIO:  ") + formatMoney(rate);
-    const double charged = draft.porcPrestacion == 0 ? payment.importeTotal : payment.importeAPagar;
+    const double charged = draft.benefit.porcPrestacion == 0 ? payment.importeTotal : payment.importeAPagar;
     content->QRLetras1 = ImporteEnLetra(Money::rounded(charged).tenThousandths(), WordsOf::Pesos) +
                          QStringLiteral(" M.N. ***");
     if (!payment.banco.trimmed().isEmpty()) {
@@ -155,10 +155,10 @@ ReceiptContent ReceiptWriter::Ticket(const NoteDraft &draft, const Payment &paym
     fillReceived(&content, draft, payment, registering ? payment.tipoCam : note.tipoCambio);
 
     content.QRL37 = QStringLiteral("LE ATENDIO: ") + options.nombreCorto;
-    if (options.educativo && draft.hasStudent() && !payerPrinted &&
-        draft.tipoServ != QLatin1String("AD")) {
-        content.QRL39 = QStringLiteral("Matricula: ") + draft.matricula.trimmed();
-        content.QRL40 = QStringLiteral("Alumno: ") + draft.alumno;
+    if (options.educativo && draft.payer.hasStudent() && !payerPrinted &&
+        draft.service.tipoServ != QLatin1String("AD")) {
+        content.QRL39 = QStringLiteral("Matricula: ") + draft.payer.matricula.trimmed();
+        content.QRL40 = QStringLiteral("Alumno: ") + draft.payer.alumno;
     }
     return content;
 }

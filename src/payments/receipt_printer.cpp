@@ -54,11 +54,8 @@ QList<ReceiptCopy> rowsOf(NamedQuery &recibos) {
 
 }  // namespace
 
-void ReceiptPrinter::Ticket(const NoteDraft &draft, const Payment &payment) {
-    ReceiptExtras extras;
-    if (draft.tipoServ == QLatin1String("AD")) {
-        extras.folioAdmision = context_.odonto.FolioAdmision;
-    }
+void ReceiptPrinter::Ticket(const NoteDraft &draft, const Payment &payment,
+                            const ReceiptExtras &extras) {
     const RegisteredNote note = registeredNote(context_, draft.notaActual);
     content_ = writer_.Ticket(draft, payment, note, extras, receiptOptions(context_));
 }
@@ -69,7 +66,7 @@ void ReceiptPrinter::Recibos(const NoteDraft &draft) {
     CopyOptions options;
     options.desactivarDuplicados = context_.options.DesactivarDuplicados;
     options.duplicadoDeImpresiones = context_.options.SegundosDuplicado;
-    for (const PlannedCopy &copy : plannedCopies(rows, draft.mode, draft.servicio, options)) {
+    for (const PlannedCopy &copy : plannedCopies(rows, draft.mode, draft.service.row, options)) {
         const report::Document document = layoutReceipt(content_, copy.descripcion);
         if (copy.target == CopyTarget::Preview) {
             context_.printing.preview(document, title, nullptr);

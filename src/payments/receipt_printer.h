@@ -12,7 +12,7 @@ public:
     explicit ReceiptPrinter(Context &context) : context_(context) {}
 
     /// Fills the receipt; reads the note back from `registrovtas`.
-    void Ticket(const NoteDraft &draft, const Payment &payment);
+    void Ticket(const NoteDraft &draft, const Payment &payment, const ReceiptExtras &extras);
 
     /// Prints the copies that the local table `recibos` lists, on the default printer; a consulted
     /// note goes to the preview. Throws report::PrintError.

@@ -21,24 +21,24 @@ public:
           ant1_(extras.edoctaSaldoAnt1.value_or(AccountMovement{})) {}
 
     ReceiptTotals advanceArea() const {
-        if (screen_.porcPrestacion > 0) {
+        if (screen_.benefit.porcPrestacion > 0) {
             return bothPanels() ? advanceWithBenefit() : balanceWithBenefit();
         }
-        if (screen_.servicio == kAbonoACuenta) {
+        if (screen_.service.row == kAbonoACuenta) {
             return bothPanels() ? accountWithBenefit() : account();
         }
         return dialog_.anticipoPanelShown && !dialog_.prestacionPanelShown ? advance() : cash();
     }
 
     ReceiptTotals plainArea() const {
-        if (Money::rounded(screen_.prestacion) <= Money()) {
+        if (Money::rounded(screen_.amounts.prestacion) <= Money()) {
             return cash(dialog_.importeTotal);
         }
         ReceiptTotals totals{subtotalOf(screen_.lines), {benefit()}, 100};
-        if (screen_.porcPrestacion != 100) {
+        if (screen_.benefit.porcPrestacion != 100) {
             totals.rows.append(row("EFECTIVO", dialog_.importeTotal));
         }
-        totals.rows.append(total(screen_.importeTotal));
+        totals.rows.append(total(screen_.amounts.importeTotal));
         return totals;
     }
 
@@ -47,7 +47,7 @@ private:
     bool isAbono() const { return screen_.tipoServNota == QLatin1String("ABO"); }
 
     ReceiptRow benefit() const {
-        return {QStringLiteral("PRESTACIÓN %1%").arg(screen_.porcPrestacion),
+        return {QStringLiteral("PRESTACIÓN %1%").arg(screen_.benefit.porcPrestacion),
                 formatMoney(dialog_.prestacion)};
     }
     ReceiptRow balance() const {
@@ -59,22 +59,22 @@ private:
     ReceiptTotals accountWithBenefit() const {
         return {dialog_.importeTotal,
                 {benefit(), isAbono() ? abono() : row("EFECTIVO", dialog_.importeTotal), balance(),
-                 total(screen_.importeTotal)},
+                 total(screen_.amounts.importeTotal)},
                 100};
     }
     ReceiptTotals account() const {
         return {dialog_.importeTotal,
                 {row("EFECTIVO", dialog_.importeTotal), isAbono() ? abono() : ReceiptRow{},
-                 balance(), total(screen_.importeTotal)},
+                 balance(), total(screen_.amounts.importeTotal)},
                 100};
     }
     ReceiptTotals advance() const {
-        return {screen_.importeTotal,
+        return {screen_.amounts.importeTotal,
                 {row("ANTICIPO", dialog_.cantidadAnticipo), row("SALDO A PAGAR", dialog_.saldo),
-                 row("IVA", screen_.iva), total(dialog_.cantidadAnticipo)},
+                 row("IVA", screen_.amounts.iva), total(dialog_.cantidadAnticipo)},
                 100};
     }
-    ReceiptTotals cash() const { return cash(screen_.importeTotal); }
+    ReceiptTotals cash() const { return cash(screen_.amounts.importeTotal); }
     ReceiptTotals cash(double subtotal) const {
         return {subtotal,
                 {row("EFECTIVO", dialog_.importeTotal), row("IVA", 0), total(dialog_.importeTotal)},
@@ -85,13 +85,13 @@ private:
         return {dialog_.cantidadAnticipo,
                 {benefit(), row("EFECTIVO", paid),
                  isAbono() ? abono() : row("ANTICIPO", dialog_.cantidadAnticipo), balance(),
-                 row("IVA", screen_.iva), total(paid)},
+                 row("IVA", screen_.amounts.iva), total(paid)},
                 120};
     }
     ReceiptTotals balanceWithBenefit() const {
         return {dialog_.importeTotal,
                 {benefit(), row(isAbono() ? "ABONO" : "EFECTIVO", dialog_.importeTotal), balance(),
-                 total(screen_.importeTotal)},
+                 total(screen_.amounts.importeTotal)},
                 100};
     }
 
@@ -106,10 +106,10 @@ private:
 std::optional<ReceiptTotals> receiptTotals(const NoteDraft &draft, const Payment &payment,
                                            const ReceiptExtras &extras) {
     const Cases cases(draft, payment, extras);
-    if (draft.area.takesAdvances()) {
+    if (draft.service.area.takesAdvances()) {
         return cases.advanceArea();
     }
-    if (draft.pagoAnticipoShown) {
+    if (draft.amounts.pagoAnticipoShown) {
         return std::nullopt;
     }
     return cases.plainArea();

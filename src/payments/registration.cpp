@@ -1,16 +1,17 @@
 #include "payments/registration.h"
 
-#include "payments/clinical_history.h"
+#include "people/clinical_history.h"
 #include "payments/receipt_printer.h"
 #include "toolkit/core/log.h"
 
 namespace kaldo {
 
-bool Registration::registrar(const NoteDraft &draft, const Payment &payment) {
+RegistrationOutcome Registration::registrar(NoteDraft draft, const Payment &payment) {
     const QString title = QStringLiteral("Información");
+    RegistrationOutcome outcome;
     try {
-        write(draft, payment);
-        receipt_.Ticket(draft, payment);
+        outcome.extras = write(draft, payment);
+        receipt_.Ticket(draft, payment, outcome.extras);
         Folio();
         receipt_.Recibos(draft);
         context_.messages.information(
@@ -20,7 +21,7 @@ bool Registration::registrar(const NoteDraft &draft, const Payment &payment) {
         if (context_.options.GenerarEstadisticas) {
             context_.frame.refreshDeskFigures();
         }
-        return true;
+        outcome.registered = true;
     } catch (const std::exception &failure) {
         // Whatever failed, the cashier's way out is the same one.
         logSwallowed(
@@ -30,37 +31,41 @@ bool Registration::registrar(const NoteDraft &draft, const Payment &payment) {
             QStringLiteral("Ocurrió un error al tratar de registrar la información. Verifique "
                            "Recibos Incompletos."),
             title);
-        return false;
     }
+    return outcome;
 }
 
-void Registration::write(const NoteDraft &draft, const Payment &payment) {
-    RegistrarNota(draft, payment);
+ReceiptExtras Registration::write(const NoteDraft &draft, const Payment &payment) {
+    const ReceiptExtras extras = RegistrarNota(draft, payment);
     MetodoPago(draft, payment);
     Detallepago(draft, payment);
     RegistrarIva(draft);
+    return extras;
 }
 
 void Registration::Mpio() {
     mpioNota_ = mpioOf(context_.caja.DatosCaja1.text(QStringLiteral("campus")), mpioNota_);
 }
 
-void Registration::RegistrarNota(const NoteDraft &draft, const Payment &payment) {
+ReceiptExtras Registration::RegistrarNota(const NoteDraft &draft, const Payment &payment) {
     Mpio();
     context_.caja.registra_pago_odontologia_p.execute(
         noteParameters(draft, payment, sessionValues()));
+    ReceiptExtras extras;
     if (createsAdmission(draft)) {
-        registrarAdmision(draft);
+        extras.folioAdmision = registrarAdmision(draft);
     }
+    return extras;
 }
 
-void Registration::registrarAdmision(const NoteDraft &draft) {
+int Registration::registrarAdmision(const NoteDraft &draft) {
     DMOdonto &odonto = context_.odonto;
     odonto.FolioAdm();
-    const int folio = odonto.FolioAdmision;
-    odonto.registra_admision_p.execute(admissionParameters(draft, sessionValues(), folio));
-    odonto.registra_datosgenerales_p.execute(generalDataParameters(draft, folio));
-    odonto.registra_antecedentes_p.execute(emptyClinicalHistory(folio));
+    const NewAdmission admission = newAdmission(draft, sessionValues(), odonto.FolioAdmision);
+    odonto.registra_admision_p.execute(admissionParameters(admission));
+    odonto.registra_datosgenerales_p.execute(generalDataParameters(admission));
+    odonto.registra_antecedentes_p.execute(emptyClinicalHistory(admission.folio));
+    return admission.folio;
 }
 
 void Registration::MetodoPago(const NoteDraft &draft, const Payment &payment) {
@@ -72,7 +77,7 @@ void Registration::Detallepago(const NoteDraft &draft, const Payment &payment) {
     const RegistrationContext values = sessionValues();
     for (const NoteLine &line : draft.lines) {
         context_.caja.spinsdetalle.execute(lineParameters(draft, payment, values, line));
-        if (draft.hasDossier()) {
+        if (draft.payer.hasDossier()) {
             context_.caja.registra_historicodontologia_p.execute(
                 historyParameters(draft, values, line));
         }

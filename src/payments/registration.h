@@ -3,11 +3,18 @@
 #include "app/context.h"
 #include "payments/note_draft.h"
 #include "payments/payment.h"
+#include "payments/receipt.h"
 #include "payments/registration_parameters.h"
 
 namespace kaldo {
 
 class ReceiptPrinter;
+
+/// What became of a note.
+struct RegistrationOutcome {
+    bool registered = false;       ///< all of it was done, the receipt and the counter included
+    ReceiptExtras extras;          ///< what the note brought into being
+};
 
 /// Makes a paid note a record: the routines in their settled order, the receipt, the counter of the
 /// desk. Each routine's work stands as it returns, so that a failure leaves a half-written note,
@@ -21,15 +28,14 @@ public:
         : context_(context), receipt_(receipt) {}
 
     /// Registers, prints and tells the cashier, also of a failure; throws nothing. `DatosCaja1`
-    /// must be open on the session's desk. True if all of it was done. The screen resets itself
-    /// afterwards in both cases.
-    bool registrar(const NoteDraft &draft, const Payment &payment);
+    /// must be open on the session's desk. The screen resets itself afterwards whatever came of it.
+    RegistrationOutcome registrar(NoteDraft draft, const Payment &payment);
 
 private:
-    void write(const NoteDraft &draft, const Payment &payment);
+    ReceiptExtras write(const NoteDraft &draft, const Payment &payment);
     void Mpio();
-    void RegistrarNota(const NoteDraft &draft, const Payment &payment);
-    void registrarAdmision(const NoteDraft &draft);
+    ReceiptExtras RegistrarNota(const NoteDraft &draft, const Payment &payment);
+    int registrarAdmision(const NoteDraft &draft);
     void MetodoPago(const NoteDraft &draft, const Payment &payment);
     void Detallepago(const NoteDraft &draft, const Payment &payment);
     void RegistrarIva(const NoteDraft &draft);

@@ -23,18 +23,22 @@ int number(const QString &text, const char *what) {
     return value;
 }
 
+int programmeNumber(const NoteLine &line) {
+    return number(line.prog, "El programa del concepto");
+}
+
 QString patientOf(const NoteDraft &draft) {
-    return wholeName(draft.paterno, draft.materno, draft.nombre);
+    return wholeName(draft.payer.paterno, draft.payer.materno, draft.payer.nombre);
 }
 
 /// Whose name the note carries: a student's or an employee's, except on a dossier's services.
 QString payerOf(const NoteDraft &draft) {
-    if (!chargesDossier(draft.tipoServ)) {
-        if (draft.hasEmployeeNumber()) {
-            return draft.nombreEmpleado.trimmed();
+    if (!chargesDossier(draft.service.tipoServ)) {
+        if (draft.payer.hasEmployeeNumber()) {
+            return draft.payer.nombreEmpleado.trimmed();
         }
-        if (draft.hasStudent()) {
-            return draft.alumno.trimmed();
+        if (draft.payer.hasStudent()) {
+            return draft.payer.alumno.trimmed();
         }
     }
     return patientOf(draft);
@@ -42,31 +46,19 @@ QString payerOf(const NoteDraft &draft) {
 
 /// The given name, which a note without dossier takes from its employee or its student.
 QString givenNameOf(const NoteDraft &draft) {
-    if (!draft.hasDossier()) {
-        if (draft.hasEmployeeNumber()) {
-            return draft.nombreEmpleado;
+    if (!draft.payer.hasDossier()) {
+        if (draft.payer.hasEmployeeNumber()) {
+            return draft.payer.nombreEmpleado;
         }
-        if (draft.hasStudent()) {
-            return draft.alumno;
+        if (draft.payer.hasStudent()) {
+            return draft.payer.alumno;
         }
     }
-    return draft.nombre;
+    return draft.payer.nombre;
 }
 
 double benefitOf(const NoteDraft &draft, const Payment &payment) {
-    return draft.prestacionExpediente > 0 ? payment.prestacion : draft.prestacion;
-}
-
-QString sexLetter(Sex sex) {
-    switch (sex) {
-        case Sex::Femenino:
-            return QStringLiteral("F");
-        case Sex::Masculino:
-            return QStringLiteral("M");
-        case Sex::Unset:
-            break;
-    }
-    return QStringLiteral("");
+    return draft.payer.prestacionExpediente > 0 ? payment.prestacion : draft.amounts.prestacion;
 }
 
 double difference(double left, double right) {
@@ -84,7 +76,14 @@ QString mpioOf(const QString &campus, const QString &before) {
 }
 
 int matriculaNumber(const NoteDraft &draft) {
-    return draft.hasStudent() ? number(draft.matricula, "La matrícula") : 0;
+    return draft.payer.hasStudent() ? number(draft.payer.matricula, "La matrícula") : 0;
+}
+
+void checkNumbers(const NoteDraft &draft) {
+    static_cast<void>(matriculaNumber(draft));
+    for (const NoteLine &line : draft.lines) {
+        static_cast<void>(programmeNumber(line));
+    }
 }
 
 bool advanceTaken(const NoteDraft &draft, const Payment &payment) {
@@ -95,10 +94,10 @@ bool advanceTaken(const NoteDraft &draft, const Payment &payment) {
 double importeOfNote(const NoteDraft &draft, const Payment &payment) {
     // An accepted advance makes both "Importe Total" equal, so that comparing those two alone would
     // charge the whole price: the cut would show money that nobody received.
-    if (draft.porcPrestacion == 100) {
+    if (draft.benefit.porcPrestacion == 100) {
         return subtotalOf(draft.lines);
     }
-    if (!advanceTaken(draft, payment) && sameAmount(draft.importeTotal, payment.importeTotal)) {
+    if (!advanceTaken(draft, payment) && sameAmount(draft.amounts.importeTotal, payment.importeTotal)) {
         return subtotalOf(draft.lines);
     }
     return payment.cantidadAnticipo;
@@ -121,11 +120,11 @@ Parameters noteParameters(const NoteDraft &draft, const Payment &payment,
         {QStringLiteral("P_MPIO"), cutToWidth(context.mpioNota, 1)},
         {QStringLiteral("P_USUARIO"), cutToWidth(context.usuario, 8)},
         {QStringLiteral("P_IMPORTE"), importeOfNote(draft, payment)},
-        {QStringLiteral("P_TIPOSERV"), cutToWidth(draft.cadenaServicio, 25)},
-        {QStringLiteral("P_TIPOCTE"), draft.tipoPacienteRow.prestacion},
+        {QStringLiteral("P_TIPOSERV"), cutToWidth(draft.service.cadenaServicio, 25)},
+        {QStringLiteral("P_TIPOCTE"), draft.payer.tipoPaciente.prestacion},
         {QStringLiteral("P_PACIENTE"), cutToWidth(payerOf(draft), kWholeNameWidth)},
         {QStringLiteral("P_MATRICULA"), matriculaNumber(draft)},
-        {QStringLiteral("P_ALUMNO"), cutToWidth(draft.alumno, 100)},
+        {QStringLiteral("P_ALUMNO"), cutToWidth(draft.payer.alumno, 100)},
         {QStringLiteral("P_TIPOCAMBIO"), payment.tipoCam},
         {QStringLiteral("P_PESOS"), pesosKept(payment)},
         {QStringLiteral("P_DOLARES"), payment.dolares},
@@ -134,74 +133,36 @@ Parameters noteParameters(const NoteDraft &draft, const Payment &payment,
         {QStringLiteral("P_CAMBIO"), payment.cambio},
         {QStringLiteral("P_IMPRESTACION"), benefitOf(draft, payment)},
         {QStringLiteral("P_NUMCHEQUE"), cutToWidth(payment.numCheque, 8)},
-        {QStringLiteral("P_NUMEMPL"), draft.numEmpleado},
-        {QStringLiteral("P_EXPEDIENTE"), cutToWidth(draft.expediente, 10)},
+        {QStringLiteral("P_NUMEMPL"), draft.payer.numEmpleado},
+        {QStringLiteral("P_EXPEDIENTE"), cutToWidth(draft.payer.expediente, 10)},
         {QStringLiteral("P_TURNO"), cutToWidth(context.turno, 2)},
         {QStringLiteral("P_CENTRO"), cutToWidth(context.centro, 4)},
-        {QStringLiteral("P_PRESTACION"), draft.tipoPacienteRow.prestacion},
-        {QStringLiteral("P_PORDSCTO"), draft.porcPrestacion},
+        {QStringLiteral("P_PRESTACION"), draft.payer.tipoPaciente.prestacion},
+        {QStringLiteral("P_PORDSCTO"), draft.benefit.porcPrestacion},
         {QStringLiteral("P_IMPDSCTO"), benefitOf(draft, payment)},
-        {QStringLiteral("P_AREA"), cutToWidth(draft.lugarArea, 2)},
-        {QStringLiteral("P_PATERNO"), cutToWidth(draft.paterno, 40)},
-        {QStringLiteral("P_MATERNO"), cutToWidth(draft.materno, 40)},
+        {QStringLiteral("P_AREA"), cutToWidth(draft.service.lugarArea, 2)},
+        {QStringLiteral("P_PATERNO"), cutToWidth(draft.payer.paterno, 40)},
+        {QStringLiteral("P_MATERNO"), cutToWidth(draft.payer.materno, 40)},
         {QStringLiteral("P_NOMBRE"), cutToWidth(givenNameOf(draft), 70)},
     };
 }
 
 bool createsAdmission(const NoteDraft &draft) {
-    return draft.cadenaServicio == kAdmision;
+    return draft.service.cadenaServicio == kAdmision;
 }
 
-Parameters admissionParameters(const NoteDraft &draft, const RegistrationContext &context,
-                               int folio) {
-    const QString empty = QStringLiteral("");
-    return {
-        {QStringLiteral("P_FOLIO"), folio},
-        {QStringLiteral("P_NUMCAJA"), context.numCaja},
-        {QStringLiteral("P_NOTAVTA"), draft.notaActual},
-        {QStringLiteral("P_TIPOADMISION"), QStringLiteral("N")},
-        {QStringLiteral("P_MATRICULA"), QVariant()},
-        {QStringLiteral("P_ALUMNO"), empty},
-        {QStringLiteral("P_CANALIZADOA"), QVariant()},
-        {QStringLiteral("P_NOMBRE"), empty},
-        {QStringLiteral("P_STATUS"),
-         draft.nacimientoShown ? QStringLiteral("AU") : QStringLiteral("PD")},
-        {QStringLiteral("P_AUTORIZACION"), empty},
-        {QStringLiteral("P_TIPOURGENCIA"), empty},
-        {QStringLiteral("P_SIGNOSVITALES"), empty},
-        {QStringLiteral("P_NIVELGLUCOSA"), QVariant()},
-        {QStringLiteral("P_HORA"), empty},
-        {QStringLiteral("P_TRATAMIENTO"), empty},
-        {QStringLiteral("P_CENTRO"), cutToWidth(context.centro, 4)},
-    };
-}
-
-Parameters generalDataParameters(const NoteDraft &draft, int folio) {
-    const QString empty = QStringLiteral("");
-    const bool asked = draft.nacimientoShown;
-    Parameters parameters{
-        {QStringLiteral("FOLIO"), folio},
-        {QStringLiteral("PATERNO"), cutToWidth(draft.paterno, 40)},
-        {QStringLiteral("MATERNO"), cutToWidth(draft.materno, 40)},
-        {QStringLiteral("PACIENTE"), cutToWidth(draft.nombre, 70)},
-        {QStringLiteral("EDAD"), asked ? draft.edad : 0},
-        {QStringLiteral("SEXO"), sexLetter(draft.sexo)},
-        {QStringLiteral("TIPOPACIENTE"), asked ? draft.tipoPaciente : empty},
-        {QStringLiteral("DOMICILIO"), empty},
-        {QStringLiteral("COLONIA"), empty},
-        {QStringLiteral("CIUDAD"), empty},
-        {QStringLiteral("COD_POSTAL"), QVariant()},
-        {QStringLiteral("FECHA_NAC"),
-         asked && draft.fechaNac.isValid() ? QVariant(draft.fechaNac) : QVariant()},
-    };
-    for (const char *name :
-         {"CURP", "ESTADOCIVIL", "TELEFONO1", "TELEFONO2", "MEDICO", "TELMEDICO", "EMERGENCIA",
-          "PARENTESCO", "TELEMERGENCIA", "PADRETUTOR", "TELPADRE", "OCUPACION", "OTRAOCUPACION",
-          "MOTIVOCONS", "OTROMOTIVO", "RECOMENDADOPOR", "OTRARECOMENDACION"}) {
-        parameters.append({QString::fromLatin1(name), empty});
-    }
-    parameters.append({QStringLiteral("NOMBRE"), patientOf(draft)});
-    return parameters;
+NewAdmission newAdmission(const NoteDraft &draft, const RegistrationContext &context, int folio) {
+    NewAdmission admission;
+    admission.folio = folio;
+    admission.numCaja = context.numCaja;
+    admission.notaVta = draft.notaActual;
+    admission.centro = context.centro;
+    admission.paterno = draft.payer.paterno;
+    admission.materno = draft.payer.materno;
+    admission.nombre = draft.payer.nombre;
+    admission.nacimiento = draft.payer.nacimiento;
+    admission.sexo = draft.payer.sexo;
+    return admission;
 }
 
 Parameters methodOfPaymentParameters(const NoteDraft &draft, const Payment &payment,
@@ -245,8 +206,8 @@ Parameters methodOfPaymentParameters(const NoteDraft &draft, const Payment &paym
 
 Parameters lineParameters(const NoteDraft &draft, const Payment &payment,
                           const RegistrationContext &context, const NoteLine &line) {
-    const bool shareIsPrice = draft.servicio == kLaboratoriosExternos &&
-                              !sameAmount(draft.importeTotal, payment.importeAPagar);
+    const bool shareIsPrice = draft.service.row == kLaboratoriosExternos &&
+                              !sameAmount(draft.amounts.importeTotal, payment.importeAPagar);
     const bool described = !line.descAdic.trimmed().isEmpty();
     return {
         {QStringLiteral("P_CAJA"), context.numCaja},
@@ -254,9 +215,9 @@ Parameters lineParameters(const NoteDraft &draft, const Payment &payment,
         {QStringLiteral("P_CODIGO"), line.codigo},
         {QStringLiteral("P_CANT"), shareIsPrice ? 1.0 : static_cast<double>(line.cant)},
         {QStringLiteral("P_PRECIO"), shareIsPrice ? line.porcentaje : line.precio},
-        {QStringLiteral("P_PORCDESCTO"), draft.porcPrestacion},
+        {QStringLiteral("P_PORCDESCTO"), draft.benefit.porcPrestacion},
         {QStringLiteral("P_NOMBRE"), patientOf(draft)},
-        {QStringLiteral("P_PROG"), number(line.prog, "El programa del concepto")},
+        {QStringLiteral("P_PROG"), programmeNumber(line)},
         {QStringLiteral("P_SSCTA"), line.subsubcta},
         {QStringLiteral("P_DESADIC"),
          described ? cutToWidth(line.descAdic, 1000) : QStringLiteral(" ")},
@@ -264,14 +225,14 @@ Parameters lineParameters(const NoteDraft &draft, const Payment &payment,
         {QStringLiteral("P_ORIG"), cutToWidth(context.origen2, 2)},
         {QStringLiteral("P_SAFOLIO"), QStringLiteral("")},
         {QStringLiteral("P_FTEFTO"), 1400},
-        {QStringLiteral("P_AREACTR"), cutToWidth(draft.tipoServ, 2)},
+        {QStringLiteral("P_AREACTR"), cutToWidth(draft.service.tipoServ, 2)},
     };
 }
 
 Parameters historyParameters(const NoteDraft &draft, const RegistrationContext &context,
                              const NoteLine &line) {
     return {
-        {QStringLiteral("P_EXPEDIENTE"), cutToWidth(draft.expediente, 10)},
+        {QStringLiteral("P_EXPEDIENTE"), cutToWidth(draft.payer.expediente, 10)},
         {QStringLiteral("P_CODIGO"), line.codigo},
         {QStringLiteral("P_TIPO_PROD"), line.tipoProd},
         {QStringLiteral("P_CVE_PROD"), line.cveProd ? QVariant(*line.cveProd) : QVariant()},
@@ -283,7 +244,7 @@ Parameters historyParameters(const NoteDraft &draft, const RegistrationContext &
         {QStringLiteral("P_PRECIO"), line.precio},
         {QStringLiteral("P_MATRICULA"), matriculaNumber(draft)},
         {QStringLiteral("P_ORIGEN"), cutToWidth(context.origen2, 2)},
-        {QStringLiteral("P_AREACTR"), cutToWidth(draft.lugarArea, 2)},
+        {QStringLiteral("P_AREACTR"), cutToWidth(draft.service.lugarArea, 2)},
     };
 }
 

@@ -39,6 +39,10 @@ QString mpioOf(const QString &campus, const QString &before);
 /// A student number: 0 without a student. Throws NotANumber.
 int matriculaNumber(const NoteDraft &draft);
 
+/// Throws NotANumber for a student number or a programme that no routine would take, so that it is
+/// told before anything is paid or written.
+void checkNumbers(const NoteDraft &draft);
+
 /// An advance was taken: an amount above zero that is not the whole subtotal.
 bool advanceTaken(const NoteDraft &draft, const Payment &payment);
 
@@ -54,11 +58,7 @@ Parameters noteParameters(const NoteDraft &draft, const Payment &payment,
 
 /// Whether this note creates an admission.
 bool createsAdmission(const NoteDraft &draft);
-/// KDREGISTRA_ADMISION_P
-Parameters admissionParameters(const NoteDraft &draft, const RegistrationContext &context,
-                               int folio);
-/// KDREGISTRA_DATOSGENERALES_P
-Parameters generalDataParameters(const NoteDraft &draft, int folio);
+NewAdmission newAdmission(const NoteDraft &draft, const RegistrationContext &context, int folio);
 
 /// KDREGISTRA_METODOPAGO_P. One method per note: card beats pesos beats dollars. A note paid by
 /// none of them gives only desk, note and the parameters that are always empty: the rest stays

@@ -74,24 +74,24 @@ void choosePaymentKind(Payment *payment, PaymentKind kind) {
 }
 
 PaymentLayout paymentLayout(const NoteDraft &draft) {
-    if (draft.porcPrestacion > 0) {
-        return draft.area.takesAdvances() ? PaymentLayout::AdvanceWithBenefit
+    if (draft.benefit.porcPrestacion > 0) {
+        return draft.service.area.takesAdvances() ? PaymentLayout::AdvanceWithBenefit
                                           : PaymentLayout::Benefit;
     }
-    return draft.area.takesAdvances() ? PaymentLayout::Advance : PaymentLayout::Plain;
+    return draft.service.area.takesAdvances() ? PaymentLayout::Advance : PaymentLayout::Plain;
 }
 
 Payment openPayment(const NoteDraft &draft, double tipoCam) {
     const PaymentLayout layout = paymentLayout(draft);
     Payment payment;
     payment.tipoCam = tipoCam;
-    payment.importeTotal = draft.importeTotal;
-    payment.importeAPagar = draft.importeTotal;
+    payment.importeTotal = draft.amounts.importeTotal;
+    payment.importeAPagar = draft.amounts.importeTotal;
     payment.anticipoPanelShown = layout != PaymentLayout::Plain;
     payment.prestacionPanelShown =
         layout == PaymentLayout::Benefit || layout == PaymentLayout::AdvanceWithBenefit;
     if (payment.prestacionPanelShown) {
-        payment.prestacion = draft.prestacion;
+        payment.prestacion = draft.amounts.prestacion;
     }
     if (layout == PaymentLayout::Advance || layout == PaymentLayout::Benefit) {
         payment.cantidadAnticipo = subtotalOf(draft.lines);
@@ -101,7 +101,7 @@ Payment openPayment(const NoteDraft &draft, double tipoCam) {
 }
 
 bool skipsDialog(const NoteDraft &draft) {
-    return draft.porcPrestacion == 100 && skipsDialogWhenCovered(draft.tipoServ);
+    return draft.benefit.porcPrestacion == 100 && skipsDialogWhenCovered(draft.service.tipoServ);
 }
 
 Payment skippedPayment(const NoteDraft &draft, double tipoCam) {
@@ -109,7 +109,6 @@ Payment skippedPayment(const NoteDraft &draft, double tipoCam) {
     payment.tipoCam = tipoCam;
     payment.importeTotal = subtotalOf(draft.lines);
     payment.prestacion = payment.importeTotal;
-    payment.confirmado = true;
     return payment;
 }
 

@@ -52,7 +52,7 @@ Payment openPayment(const NoteDraft &draft, double tipoCam);
 /// A note that the benefit covers whole on these services is registered without the dialog.
 bool skipsDialog(const NoteDraft &draft);
 
-/// The accepted payment of a note that skips the dialog: a fresh one whose total and benefit are
+/// The payment of a note that skips the dialog: a fresh one whose total and benefit are
 /// the subtotal.
 Payment skippedPayment(const NoteDraft &draft, double tipoCam);
 

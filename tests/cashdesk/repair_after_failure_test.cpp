@@ -24,7 +24,7 @@ TEST(RepairAfterFailure, TheNoteCanBeEnteredAgain) {
     };
     const auto admission = [&] { return desk.note("AD - ADMISION", 1, {1}); };
     const auto paid = [](const NoteDraft &draft) {
-        return paidWith(draft, 1, 1, draft.importeTotal);
+        return paidWith(draft, 1, 1, draft.amounts.importeTotal);
     };
 
     const int folio = records.folio();

@@ -36,7 +36,7 @@ public:
             lines += line(tipoProd, key);
         }
         NoteDraft draft = noteDraft(service, lines, percent);
-        draft.area.tipoProd = tipoProd;
+        draft.service.area.tipoProd = tipoProd;
         draft.notaActual = nextNote();
         draft.fecha = clock.today();
         return draft;
@@ -49,7 +49,7 @@ public:
     }
 
     bool registrar(const NoteDraft &draft, const Payment &payment) {
-        return registration.registrar(draft, payment);
+        return registration.registrar(draft, payment).registered;
     }
     /// Registers and expects to be told that all went well.
     bool registers(const NoteDraft &draft, const Payment &payment) {

@@ -52,16 +52,16 @@ TEST(ReceiptLayout, AnAdmissionPrintsAsItAlwaysDid) {
 TEST(ReceiptLayout, AChequeWithBenefitOnADossierPrintsAsItAlwaysDid) {
     NoteDraft draft = noteDraft("AP - SERVICIOS DE CLINICA",
                                 {noteLine(1, 800, "RESINA"), noteLine(3, 66.5, "SELLADOR")}, 50);
-    draft.expediente = "00015/23";
-    draft.folioAdmision = 345;
-    draft.matricula = "20231234";
-    draft.alumno = "RUIZ SOTO EVA";
-    draft.lugarShown = true;
-    draft.lugarDescr = "CLINICA DE OPERATORIA";
-    draft.empleadoPanelShown = true;
-    draft.empleadoLabel = "77 SAENZ LEAL OMAR";
-    draft.dependenciaLabel = "220 FACULTAD DE ODONTOLOGIA";
-    draft.tipoPacienteRow = {2, "EMPLEADO ADMINISTRATIVO"};
+    draft.payer.expediente = "00015/23";
+    draft.payer.folioAdmision = 345;
+    draft.payer.matricula = "20231234";
+    draft.payer.alumno = "RUIZ SOTO EVA";
+    draft.service.lugarShown = true;
+    draft.service.lugarDescr = "CLINICA DE OPERATORIA";
+    draft.payer.empleadoPanelShown = true;
+    draft.payer.empleadoLabel = "77 SAENZ LEAL OMAR";
+    draft.payer.dependenciaLabel = "220 FACULTAD DE ODONTOLOGIA";
+    draft.payer.tipoPaciente = {2, "EMPLEADO ADMINISTRATIVO"};
     Payment payment = openPayment(draft, 18.5);
     choosePaymentKind(&payment, PaymentKind::ChequeMN);
     payment.cheque = payment.importeAPagar;
@@ -89,8 +89,8 @@ TEST(ReceiptLayout, BandsTakeTheHeightOfTheirCase) {
     EXPECT_EQ(placeOf(document, "IVA CORRESPONDIENTE:").top(), 265 + 90 + 34 + 80 + 4);
     EXPECT_EQ(placeOf(document, "Av. Reforma 120, Centro").top(), 85);
 
-    draft.lugarShown = true;
-    draft.tipoServ = "EX";  // nobody to name: a shorter header
+    draft.service.lugarShown = true;
+    draft.service.tipoServ = "EX";  // nobody to name: a shorter header
     document = receiptOf(draft, payment);
     EXPECT_EQ(placeOf(document, "RECIBO NO. 4-1532").top(), 297 + 2);
     EXPECT_EQ(placeOf(document, "CONSULTA").top(), 297 + 60 + 12);
@@ -102,18 +102,18 @@ TEST(ReceiptLayout, LongTextsNeverCoverOthers) {
         draft.lines.append(noteLine(32767, 999999.99, QString("PROTESIS TOTAL ").repeated(at + 1)));
         draft.lines.last().descAdic = QString("DESCRIPCION ADICIONAL ").repeated(at % 4);
     }
-    draft.paterno = QString(40, 'W');
-    draft.materno = QString(40, 'M');
-    draft.expediente = "00015/23";
-    draft.folioAdmision = 2000000000;
-    draft.matricula = "2000000000";
-    draft.alumno = QString("NOMBRE LARGO ").repeated(8);
-    draft.area.descr = QString("SERVICIOS DE ODONTOLOGIA ").repeated(3);
-    draft.lugarShown = true;
-    draft.lugarDescr = QString(40, 'W');
+    draft.payer.paterno = QString(40, 'W');
+    draft.payer.materno = QString(40, 'M');
+    draft.payer.expediente = "00015/23";
+    draft.payer.folioAdmision = 2000000000;
+    draft.payer.matricula = "2000000000";
+    draft.payer.alumno = QString("NOMBRE LARGO ").repeated(8);
+    draft.service.area.descr = QString("SERVICIOS DE ODONTOLOGIA ").repeated(3);
+    draft.service.lugarShown = true;
+    draft.service.lugarDescr = QString(40, 'W');
     draft.centroLabel = QString("Centro de atención dental ").repeated(3);
-    draft.empleadoPanelShown = true;
-    draft.empleadoLabel = "2000000000 " + QString("SAENZ LEAL ").repeated(9);
+    draft.payer.empleadoPanelShown = true;
+    draft.payer.empleadoLabel = "2000000000 " + QString("SAENZ LEAL ").repeated(9);
     ReceiptOptions options = receiptOptions();
     options.educativo = true;
     options.contabilidadGubernamental = true;
@@ -133,12 +133,12 @@ TEST(ReceiptLayout, LongTextsNeverCoverOthers) {
     // The employee memo of a note that names nobody else, and of one that names the employee.
     for (const char *service : {"UE", "VA"}) {
         NoteDraft employee = noteDraft("VA - VARIOS", {noteLine(1, 80, "COPIAS")});
-        employee.tipoServ = service;
-        employee.noEmpleado = "77";
-        employee.nombreEmpleado = "SAENZ LEAL OMAR";
-        employee.empleadoPanelShown = true;
-        employee.empleadoLabel = "77 SAENZ LEAL OMAR";
-        employee.dependenciaLabel = "220 FACULTAD DE ODONTOLOGIA";
+        employee.service.tipoServ = service;
+        employee.payer.noEmpleado = "77";
+        employee.payer.nombreEmpleado = "SAENZ LEAL OMAR";
+        employee.payer.empleadoPanelShown = true;
+        employee.payer.empleadoLabel = "77 SAENZ LEAL OMAR";
+        employee.payer.dependenciaLabel = "220 FACULTAD DE ODONTOLOGIA";
         EXPECT_TRUE(
             readsCleanly(receiptOf(employee, paidWith(employee, 0, 0, 80)), report::units(kRoll)))
             << service;

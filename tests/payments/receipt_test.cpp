@@ -21,7 +21,7 @@ ReceiptContent receiptOf(const NoteDraft &draft, const Payment &payment,
 }
 
 ReceiptContent receiptOf(const NoteDraft &draft) {
-    return receiptOf(draft, paidWith(draft, 0, 0, draft.importeTotal));
+    return receiptOf(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal));
 }
 
 /// "SUBTOTAL $1.00 | TOTAL $1.00 | 80": empty rows are left out.
@@ -84,29 +84,29 @@ TEST(Receipt, IdentityLines) {
     EXPECT_EQ(content.QRL17, "LÓPEZ MARTÍNEZ ANA");
 
     draft = noteDraft("AP - SERVICIOS DE CLINICA", {noteLine(1, 80)});
-    draft.expediente = "00015/23";
-    draft.folioAdmision = 12;
-    draft.matricula = "20231234";
+    draft.payer.expediente = "00015/23";
+    draft.payer.folioAdmision = 12;
+    draft.payer.matricula = "20231234";
     content = receiptOf(draft);
     EXPECT_EQ(content.QRL16, "EXPEDIENTE: 00015/23");
     EXPECT_EQ(content.QRL16a, "ADMISION: 12");
 
     draft = noteDraft("AL - ALUMNOS", {noteLine(1, 80)});
-    draft.matricula = "20231234";
-    draft.alumno = "RUIZ SOTO EVA ";
+    draft.payer.matricula = "20231234";
+    draft.payer.alumno = "RUIZ SOTO EVA ";
     content = receiptOf(draft);
     EXPECT_EQ(content.QRL16, "MATRICULA: 20231234");
     EXPECT_EQ(content.QRL17, "RUIZ SOTO EVA");
 
     draft = noteDraft("VA - VARIOS", {noteLine(1, 80)});
-    draft.noEmpleado = "77";
-    draft.nombreEmpleado = "SAENZ LEAL OMAR";
+    draft.payer.noEmpleado = "77";
+    draft.payer.nombreEmpleado = "SAENZ LEAL OMAR";
     content = receiptOf(draft);
     EXPECT_EQ(content.QRL16, "EMPLEADO: 77");
     EXPECT_EQ(content.QRL17, "SAENZ LEAL OMAR");
 
     draft = noteDraft("EX - EXAMENES DE ESPECIALIDADES", {noteLine(1, 80)});
-    draft.matricula = " ";
+    draft.payer.matricula = " ";
     content = receiptOf(draft);
     EXPECT_FALSE(content.identified);
     EXPECT_EQ(content.QRL16 + content.QRL17, "");
@@ -121,19 +121,19 @@ TEST(Receipt, TheStudentIsPrintedOnce) {
         const ReceiptContent content = writer.Ticket(draft, {}, registeredNote(), {}, options);
         return content.QRL39 + "|" + content.QRL40;
     };
-    draft.expediente = "00015/23";
-    draft.matricula = "20231234";
-    draft.alumno = "RUIZ SOTO EVA";
+    draft.payer.expediente = "00015/23";
+    draft.payer.matricula = "20231234";
+    draft.payer.alumno = "RUIZ SOTO EVA";
     EXPECT_EQ(student(), "Matricula: 20231234|Alumno: RUIZ SOTO EVA");
-    draft.expediente = "";
+    draft.payer.expediente = "";
     EXPECT_EQ(student(), "|");  // stands in the identity lines
-    draft.expediente = "00015/23";
-    draft.tipoServ = "AD";
+    draft.payer.expediente = "00015/23";
+    draft.service.tipoServ = "AD";
     EXPECT_EQ(student(), "|");
-    draft.tipoServ = "AP";
-    draft.matricula = "0";
+    draft.service.tipoServ = "AP";
+    draft.payer.matricula = "0";
     EXPECT_EQ(student(), "|");
-    draft.matricula = "20231234";
+    draft.payer.matricula = "20231234";
     options.educativo = false;
     EXPECT_EQ(student(), "|");
 }
@@ -211,7 +211,7 @@ TEST(Receipt, TotalsOfPaymentsToAnAccount) {
 TEST(Receipt, CaptionsStayAsTheLastPrintLeftThem) {
     ReceiptWriter writer;
     NoteDraft uncovered = noteDraft("OT - OTROS", {noteLine(1, 500)});
-    uncovered.pagoAnticipoShown = true;
+    uncovered.amounts.pagoAnticipoShown = true;
     const auto print = [&](const NoteDraft &draft) {
         return writer.Ticket(draft, paidWith(draft, 0, 0, 500), registeredNote(), {},
                              receiptOptions());
@@ -254,7 +254,7 @@ TEST(Receipt, WhatWasReceived) {
     content = receiptOf(draft, payment);
     EXPECT_EQ(content.QRL27.amount, "$582.50");
     EXPECT_EQ(content.QRL33, "TIPO DE CAMBIO:  $18.25");
-    draft.porcPrestacion = 10;
+    draft.benefit.porcPrestacion = 10;
     payment.importeAPagar = 21;
     payment.banco = "BANCO DEL VALLE";
     payment.numCheque = "77";

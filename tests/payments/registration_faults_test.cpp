@@ -42,12 +42,12 @@ NoteDraft admissionNote(Desk &desk) {
 
 NoteDraft dossierNote(Desk &desk) {
     NoteDraft draft = desk.note("AP - SERVICIOS DE CLINICA", 4, {1, 17});
-    draft.expediente = "00001/24";
+    draft.payer.expediente = "00001/24";
     return draft;
 }
 
 Payment paid(const NoteDraft &draft) {
-    return paidWith(draft, 1, 1, draft.importeTotal);
+    return paidWith(draft, 1, 1, draft.amounts.importeTotal);
 }
 
 class RegistrationFaults : public ::testing::Test {

@@ -1,5 +1,5 @@
 #include "payments/registration_parameters.h"
-#include "payments/clinical_history.h"
+#include "people/clinical_history.h"
 #include "tests/payments/sample_note.h"
 
 #include <gtest/gtest.h>
@@ -60,32 +60,32 @@ TEST(Registration, TheNoteIsHandedOverWhole) {
 TEST(Registration, ComposedTextsAreCutToTheirParameter) {
     NoteDraft draft = noteDraft("EX - EXAMENES DE ESPECIALIDADES", {noteLine(1, 500)});
     EXPECT_EQ(noteText(draft, "P_TIPOSERV"), "EXAMENES DE ESPECIALIDADE");
-    draft.paterno = QString(40, 'P');
-    draft.materno = QString(40, 'M');
+    draft.payer.paterno = QString(40, 'P');
+    draft.payer.materno = QString(40, 'M');
     EXPECT_EQ(noteText(draft, "P_PACIENTE").size(), 80);
     EXPECT_EQ(noteText(draft, "P_PATERNO").size(), 40);
 }
 
 TEST(Registration, TheNoteCarriesWhoPays) {
     NoteDraft draft = noteDraft("VA - VARIOS", {noteLine(1, 500)});
-    draft.matricula = "";
+    draft.payer.matricula = "";
     EXPECT_EQ(noteText(draft, "P_PACIENTE"), "LÓPEZ MARTÍNEZ ANA");
-    draft.matricula = "20231234";
-    draft.alumno = " RUIZ SOTO EVA ";
+    draft.payer.matricula = "20231234";
+    draft.payer.alumno = " RUIZ SOTO EVA ";
     EXPECT_EQ(noteText(draft, "P_PACIENTE"), "RUIZ SOTO EVA");
     EXPECT_EQ(noteText(draft, "P_NOMBRE"), " RUIZ SOTO EVA ");
     EXPECT_EQ(noteText(draft, "P_MATRICULA"), "20231234");
-    draft.noEmpleado = "77";
-    draft.nombreEmpleado = "SAENZ LEAL OMAR ";
+    draft.payer.noEmpleado = "77";
+    draft.payer.nombreEmpleado = "SAENZ LEAL OMAR ";
     EXPECT_EQ(noteText(draft, "P_PACIENTE"), "SAENZ LEAL OMAR");
     EXPECT_EQ(noteText(draft, "P_NOMBRE"), "SAENZ LEAL OMAR ");
     for (const char *service : {"AE", "AP", "ES", "LE"}) {
-        draft.tipoServ = service;
-        draft.expediente = "00015/23";
+        draft.service.tipoServ = service;
+        draft.payer.expediente = "00015/23";
         EXPECT_EQ(noteText(draft, "P_PACIENTE"), "LÓPEZ MARTÍNEZ ANA") << service;
         EXPECT_EQ(noteText(draft, "P_NOMBRE"), "ANA") << service;
     }
-    draft.matricula = "12-";
+    draft.payer.matricula = "12-";
     EXPECT_THROW(noteText(draft, "P_MATRICULA"), NotANumber);
 }
 
@@ -96,7 +96,7 @@ TEST(Registration, ChargesTheAdvanceWhereOneWasTaken) {
     EXPECT_EQ(importeOfNote(draft, payment), 1000);
     // An advance of 300 makes both totals 300.
     NoteDraft advanced = draft;
-    advanced.importeTotal = payment.importeTotal = payment.cantidadAnticipo = 300;
+    advanced.amounts.importeTotal = payment.importeTotal = payment.cantidadAnticipo = 300;
     EXPECT_TRUE(advanceTaken(advanced, payment));
     EXPECT_EQ(importeOfNote(advanced, payment), 300);
 
@@ -122,7 +122,7 @@ TEST(Registration, BenefitComesFromTheDialogOnADossier) {
     Payment payment = openPayment(draft, 18.5);
     payment.prestacion = 120;  // of an advance of 400
     EXPECT_EQ(valueOf(noteParameters(draft, payment, context()), "P_IMPRESTACION"), 300.0);
-    draft.prestacionExpediente = 2;
+    draft.payer.prestacionExpediente = 2;
     EXPECT_EQ(valueOf(noteParameters(draft, payment, context()), "P_IMPRESTACION"), 120.0);
     EXPECT_EQ(valueOf(noteParameters(draft, payment, context()), "P_IMPDSCTO"), 120.0);
 }
@@ -136,7 +136,7 @@ TEST(Registration, OnlyAnAdmissionNoteCreatesOne) {
     NoteDraft draft = noteDraft("AD - ADMISION", {noteLine(1, 80)});
     EXPECT_TRUE(createsAdmission(draft));
 
-    Parameters admission = admissionParameters(draft, context(), 345);
+    Parameters admission = admissionParameters(newAdmission(draft, context(), 345));
     EXPECT_EQ(admission.size(), 16);
     EXPECT_EQ(valueOf(admission, "P_STATUS"), "PD");
     for (const char *null : {"P_MATRICULA", "P_CANALIZADOA", "P_NIVELGLUCOSA"}) {
@@ -144,20 +144,17 @@ TEST(Registration, OnlyAnAdmissionNoteCreatesOne) {
     }
     EXPECT_TRUE(valueOf(admission, "P_ALUMNO").isValid());
 
-    Parameters general = generalDataParameters(draft, 345);
+    Parameters general = generalDataParameters(newAdmission(draft, context(), 345));
     EXPECT_EQ(general.size(), 30);
     EXPECT_EQ(valueOf(general, "EDAD"), 0);
     EXPECT_EQ(valueOf(general, "TIPOPACIENTE"), "");
     EXPECT_FALSE(valueOf(general, "FECHA_NAC").isValid());
     EXPECT_EQ(valueOf(general, "NOMBRE"), "LÓPEZ MARTÍNEZ ANA");
 
-    draft.nacimientoShown = true;
-    draft.edad = 8;
-    draft.tipoPaciente = "I";
-    draft.fechaNac = QDate(2018, 4, 30);
-    draft.sexo = Sex::Masculino;
-    general = generalDataParameters(draft, 345);
-    EXPECT_EQ(valueOf(admissionParameters(draft, context(), 345), "P_STATUS"), "AU");
+    draft.payer.nacimiento = Birth{QDate(2018, 4, 30), 8, "I"};
+    draft.payer.sexo = Sex::Masculino;
+    general = generalDataParameters(newAdmission(draft, context(), 345));
+    EXPECT_EQ(valueOf(admissionParameters(newAdmission(draft, context(), 345)), "P_STATUS"), "AU");
     EXPECT_EQ(valueOf(general, "EDAD"), 8);
     EXPECT_EQ(valueOf(general, "TIPOPACIENTE"), "I");
     EXPECT_EQ(valueOf(general, "FECHA_NAC").toDate(), QDate(2018, 4, 30));
@@ -214,9 +211,9 @@ TEST(Registration, OneMethodOfPaymentPerNote) {
 
 TEST(Registration, LinesAndHistory) {
     NoteDraft draft = noteDraft("LE - LABORATORIOS EXTERNOS", {noteLine(3, 100), noteLine(1, 50)});
-    draft.expediente = "00015/23";
-    draft.matricula = "20231234";
-    draft.lugarArea = "07";
+    draft.payer.expediente = "00015/23";
+    draft.payer.matricula = "20231234";
+    draft.service.lugarArea = "07";
     draft.lines[0].porcentaje = 120;
     Payment payment = paidWith(draft, 0, 0, 350);
     const NoteLine &line = draft.lines.first();
@@ -234,7 +231,7 @@ TEST(Registration, LinesAndHistory) {
     sent = lineParameters(draft, payment, context(), line);
     EXPECT_EQ(valueOf(sent, "P_CANT"), 1.0);
     EXPECT_EQ(valueOf(sent, "P_PRECIO"), 120.0);
-    draft.servicio = "AP - SERVICIOS DE CLINICA";
+    draft.service.row = "AP - SERVICIOS DE CLINICA";
     EXPECT_EQ(valueOf(lineParameters(draft, payment, context(), line), "P_PRECIO"), 100.0);
 
     const Parameters history = historyParameters(draft, context(), line);

@@ -46,7 +46,7 @@ TEST(RegistrationOnServer, TwoDesksRegisterAndSurviveWhatHappensToTheServer) {
         ASSERT_TRUE(desk->conexion.FBOdonto.database().startsWith(server.host()));
         for (Desk *each : {desk.get(), &other, desk.get()}) {
             const NoteDraft draft = admissionNote(*each);
-            EXPECT_TRUE(each->registers(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+            EXPECT_TRUE(each->registers(draft, paidWith(draft, 0, 1, draft.amounts.importeTotal)));
         }
     }
     EXPECT_EQ(records->rows("admision", "folio, num_caja, nota_vta",
@@ -61,7 +61,7 @@ TEST(RegistrationOnServer, TwoDesksRegisterAndSurviveWhatHappensToTheServer) {
     desk->conexion.setSeam(&dying);
     QElapsedTimer clock;
     clock.start();
-    EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_LT(clock.elapsed(), 2000);
     desk->conexion.setSeam(nullptr);
     ASSERT_TRUE(server.start());
@@ -84,7 +84,7 @@ TEST(RegistrationOnServer, TwoDesksRegisterAndSurviveWhatHappensToTheServer) {
     draft = admissionNote(*desk);
     EXPECT_EQ(draft.notaActual, 3);
     desk->conexion.setSeam(&ending);
-    EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+    EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 1, draft.amounts.importeTotal)));
     desk->conexion.setSeam(nullptr);
     EXPECT_EQ(records->ofNote(1, 3, folio + 4), half);
     records->repair(1, 3);
@@ -99,21 +99,21 @@ TEST(RegistrationOnServer, TwoDesksRegisterAndSurviveWhatHappensToTheServer) {
     draft = admissionNote(*desk);
     desk->conexion.setSeam(&freezing);
     desk->conexion.setWaitObserver(&patient);
-    EXPECT_TRUE(desk->registers(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+    EXPECT_TRUE(desk->registers(draft, paidWith(draft, 0, 1, draft.amounts.importeTotal)));
     EXPECT_EQ(records->ofNote(1, 3, folio + 5), whole);
 
     // The cashier gives it up: a failure that is told, and nothing twice.
     Patient hasty([] { return true; });
     draft = admissionNote(*desk);
     desk->conexion.setWaitObserver(&hasty);
-    EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+    EXPECT_TRUE(desk->fails(draft, paidWith(draft, 0, 1, draft.amounts.importeTotal)));
     server.thaw();
     desk->conexion.setSeam(nullptr);
     EXPECT_EQ(records->count("registrovtas", "num_caja = 1 and nota_vta = 4"), 1);
     EXPECT_LE(records->count("metodopagonota", "num_caja = 1 and nota_vta = 4"), 1);
     records->repair(1, 4);
     draft = admissionNote(*desk);
-    EXPECT_TRUE(desk->registers(draft, paidWith(draft, 0, 1, draft.importeTotal)));
+    EXPECT_TRUE(desk->registers(draft, paidWith(draft, 0, 1, draft.amounts.importeTotal)));
     EXPECT_EQ(records->count("registrovtas", "num_caja = 1"), 4);
 }
 

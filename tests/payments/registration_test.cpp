@@ -34,10 +34,10 @@ protected:
 TEST_F(Registering, AnAdmissionNoteWritesEverythingThatIsReadBack) {
     test::run(records.clinic, "update control set folioad = 700");
     NoteDraft draft = desk.note("AD - ADMISION", 1, {1});
-    draft.paterno = "O'HARA \"Ñ\"";
-    draft.materno = " 50% ";
-    draft.nombre = "ANA";
-    draft.sexo = Sex::Femenino;
+    draft.payer.paterno = "O'HARA \"Ñ\"";
+    draft.payer.materno = " 50% ";
+    draft.payer.nombre = "ANA";
+    draft.payer.sexo = Sex::Femenino;
     const double price = draft.lines[0].precio;
     const Payment payment = paidWith(draft, 10, 1, price);
     ASSERT_TRUE(desk.registers(draft, payment));
@@ -102,13 +102,10 @@ TEST_F(Registering, AnAdmissionNoteWritesEverythingThatIsReadBack) {
 
 TEST_F(Registering, AnAdmissionAskedForTheBirthIsAuthorised) {
     NoteDraft draft = desk.note("AD - ADMISION", 1, {1});
-    draft.nacimientoShown = true;
-    draft.fechaNac = QDate(2015, 3, 9);
-    draft.edad = 11;
-    draft.tipoPaciente = "I";
-    draft.sexo = Sex::Masculino;
+    draft.payer.nacimiento = Birth{QDate(2015, 3, 9), 11, "I"};
+    draft.payer.sexo = Sex::Masculino;
     const int folio = records.folio();
-    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(rows("admision", "folio, status", 1), QString::number(folio) + "|AU");
     EXPECT_EQ(records.rows("datosgenerales", "edad, sexo, tipopaciente, fecha_nac",
                            "folio = " + QString::number(folio)),
@@ -120,22 +117,22 @@ TEST_F(Registering, ADossierNoteByChequeHasItsHistory) {
     draft.lines[1].cant = 2;
     draft.lines[1].total = 2 * draft.lines[1].precio;
     draft.lines[1].descAdic = "PIEZA 26";
-    draft.importeTotal = subtotalOf(draft.lines);
-    draft.expediente = "00001/24";
-    draft.folioAdmision = 1;
-    draft.matricula = "1100001";
-    draft.alumno = "ALVAREZ CANO JIMENA";
-    draft.lugarShown = true;
-    draft.lugarArea = "A1";
+    draft.amounts.importeTotal = subtotalOf(draft.lines);
+    draft.payer.expediente = "00001/24";
+    draft.payer.folioAdmision = 1;
+    draft.payer.matricula = "1100001";
+    draft.payer.alumno = "ALVAREZ CANO JIMENA";
+    draft.service.lugarShown = true;
+    draft.service.lugarArea = "A1";
     Payment payment = paidWith(draft, 0, 0, 0);
     payment.tipoDePago = PaymentKind::ChequeMN;
-    payment.cheque = draft.importeTotal;
+    payment.cheque = draft.amounts.importeTotal;
     payment.banco = "BANCO DEL PUERTO";
     payment.numCheque = "00012345";
     recomputeTotals(&payment);
     ASSERT_TRUE(desk.registers(draft, payment));
 
-    const QString total = QString::number(draft.importeTotal);
+    const QString total = QString::number(draft.amounts.importeTotal);
     EXPECT_EQ(rows("pagos_odontologia",
                    "expediente, paciente, matricula, alumno, area, paterno, materno, nombre", 1),
               "00001/24|LÓPEZ MARTÍNEZ ANA|1100001|ALVAREZ CANO JIMENA|A1|LÓPEZ|MARTÍNEZ|ANA");
@@ -159,10 +156,10 @@ TEST_F(Registering, ADossierNoteByChequeHasItsHistory) {
 
 TEST_F(Registering, AMethodThatIsNoneKeepsThatOfTheNoteBefore) {
     const NoteDraft first = desk.note("PG - PUBLICO GENERAL", 6, {1});
-    ASSERT_TRUE(desk.registers(first, paidWith(first, first.importeTotal, 0, 0)));
+    ASSERT_TRUE(desk.registers(first, paidWith(first, first.amounts.importeTotal, 0, 0)));
     const NoteDraft second = desk.note("PG - PUBLICO GENERAL", 6, {2});
     Payment cheque = paidWith(second, 0, 0, 0);
-    cheque.cheque = second.importeTotal;
+    cheque.cheque = second.amounts.importeTotal;
     ASSERT_TRUE(desk.registers(second, cheque));
     EXPECT_EQ(rows("metodopagonota", "cve, importe, moneda", 2),
               rows("metodopagonota", "cve, importe, moneda", 1));
@@ -171,11 +168,11 @@ TEST_F(Registering, AMethodThatIsNoneKeepsThatOfTheNoteBefore) {
 
 TEST_F(Registering, AStudentPaysInDollars) {
     NoteDraft draft = desk.note("AL - ALUMNOS", 8, {1});
-    draft.paterno.clear();
-    draft.materno.clear();
-    draft.nombre.clear();
-    draft.matricula = "1100003";
-    draft.alumno = "CASTRO VALLE RENATA";
+    draft.payer.paterno.clear();
+    draft.payer.materno.clear();
+    draft.payer.nombre.clear();
+    draft.payer.matricula = "1100003";
+    draft.payer.alumno = "CASTRO VALLE RENATA";
     const Payment payment = paidWith(draft, 0, 100, 5);
     ASSERT_TRUE(desk.registers(draft, payment));
     const QString change = QString::number(payment.cambio, 'g', 12);
@@ -194,11 +191,11 @@ TEST_F(Registering, AStudentPaysInDollars) {
 
 TEST_F(Registering, AnEmployeePays) {
     NoteDraft draft = desk.note("VA - VARIOS", 9, {1});
-    draft.noEmpleado = "1001";
-    draft.numEmpleado = 1001;
-    draft.nombreEmpleado = "ARTURO SALCIDO MENDEZ";
-    draft.tipoPacienteRow = {2, "EMPLEADO"};
-    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    draft.payer.noEmpleado = "1001";
+    draft.payer.numEmpleado = 1001;
+    draft.payer.nombreEmpleado = "ARTURO SALCIDO MENDEZ";
+    draft.payer.tipoPaciente = {2, "EMPLEADO"};
+    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(rows("pagos_odontologia", "num_empl, empleado, paciente, nombre, prestacion", 1),
               "1001|ARTURO SALCIDO MENDEZ|ARTURO SALCIDO MENDEZ|ARTURO SALCIDO MENDEZ|2");
 }
@@ -206,24 +203,24 @@ TEST_F(Registering, AnEmployeePays) {
 TEST_F(Registering, MunicipalityFollowsTheDeskOrTheNoteBefore) {
     test::run(records.clinic, "update datoscaja set campus = '1' where num_caja = 1");
     NoteDraft draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
-    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(rows("registrovtas", "mpio, status", 1), "|GE");
     test::run(records.clinic, "update datoscaja set campus = '3' where num_caja = 1");
     draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
-    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     test::run(records.clinic, "update datoscaja set campus = '1' where num_caja = 1");
     draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
-    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(rows("registrovtas", "mpio, status", 3), "T|GE");
 }
 
 TEST_F(Registering, TheWidestTextsFit) {
     NoteDraft draft = desk.note("EX - EXAMENES DE ESPECIALIDADES", 13, {1});
-    draft.paterno = QString(40, u'Ñ');
-    draft.materno = QString(40, u'Á');
-    draft.nombre = QString(70, u'Ü');
-    draft.matricula = "2147483647";
-    draft.alumno = QString(250, u'Ó');
+    draft.payer.paterno = QString(40, u'Ñ');
+    draft.payer.materno = QString(40, u'Á');
+    draft.payer.nombre = QString(70, u'Ü');
+    draft.payer.matricula = "2147483647";
+    draft.payer.alumno = QString(250, u'Ó');
     draft.lines[0].descAdic = QString(255, u'É');
     ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, 999999999.99)));
     EXPECT_EQ(rows("pagos_odontologia", "tipo_serv, paterno", 1),
@@ -236,8 +233,8 @@ TEST_F(Registering, TwoSessionsOnOneDeskMeetTheNumberOfTheFirst) {
     const NoteDraft first = desk.note("PG - PUBLICO GENERAL", 6, {1});
     const NoteDraft second = other.note("PG - PUBLICO GENERAL", 6, {2});
     ASSERT_EQ(first.notaActual, second.notaActual);
-    ASSERT_TRUE(desk.registers(first, paidWith(first, 0, 0, first.importeTotal)));
-    EXPECT_TRUE(other.fails(second, paidWith(second, 0, 0, second.importeTotal)));
+    ASSERT_TRUE(desk.registers(first, paidWith(first, 0, 0, first.amounts.importeTotal)));
+    EXPECT_TRUE(other.fails(second, paidWith(second, 0, 0, second.amounts.importeTotal)));
     EXPECT_EQ(rows("detallevtas", "cve_prod, cant", 1), "1|1");
     EXPECT_EQ(desk.nextNote(), 2);
     EXPECT_TRUE(other.printing.records.isEmpty());
@@ -250,10 +247,10 @@ TEST_F(Registering, TwoStationsThatAdmitAtTheSameMomentKeepTheirFolios) {
     // Another desk registers at one moment of this one's registration.
     TestSeam seam(Moment::BeforeExecution, atName("registra_admision_p"), [&](const Execution &) {
         const NoteDraft theirs = other.note("AD - ADMISION", 1, {1});
-        EXPECT_TRUE(other.registers(theirs, paidWith(theirs, 0, 0, theirs.importeTotal)));
+        EXPECT_TRUE(other.registers(theirs, paidWith(theirs, 0, 0, theirs.amounts.importeTotal)));
     });
     desk.conexion.setSeam(&seam);
-    EXPECT_TRUE(desk.fails(mine, paidWith(mine, 0, 0, mine.importeTotal)));
+    EXPECT_TRUE(desk.fails(mine, paidWith(mine, 0, 0, mine.amounts.importeTotal)));
     desk.conexion.setSeam(nullptr);
     EXPECT_EQ(records.rows("admision", "num_caja, folio", "folio >= " + QString::number(folio)),
               "12|" + QString::number(folio));
@@ -261,7 +258,7 @@ TEST_F(Registering, TwoStationsThatAdmitAtTheSameMomentKeepTheirFolios) {
     EXPECT_EQ(desk.nextNote(), mine.notaActual);
 
     records.repair(1, mine.notaActual);
-    ASSERT_TRUE(desk.registers(mine, paidWith(mine, 0, 0, mine.importeTotal)));
+    ASSERT_TRUE(desk.registers(mine, paidWith(mine, 0, 0, mine.amounts.importeTotal)));
     EXPECT_EQ(rows("admision", "folio, status", mine.notaActual),
               QString::number(folio + 1) + "|PD");
 }
@@ -270,7 +267,7 @@ TEST_F(Registering, CopiesComeOutAsTheLocalTableSays) {
     const auto register_ = [this](const QString &service, int area) {
         desk.printing.records.clear();
         const NoteDraft draft = desk.note(service, area, {1});
-        EXPECT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+        EXPECT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
         QStringList copies;
         for (const auto &record : desk.printing.records) {
             EXPECT_EQ(record.title, "Recibo de Pago");
@@ -297,18 +294,18 @@ TEST_F(Registering, CopiesComeOutAsTheLocalTableSays) {
 TEST_F(Registering, FiguresAreRefreshedWhereTheStationCountsThem) {
     const NoteDraft draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
     desk.options.GenerarEstadisticas = false;
-    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    ASSERT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(desk.frame.figuresRefreshed, 0);
     desk.options.GenerarEstadisticas = true;
     const NoteDraft next = desk.note("PG - PUBLICO GENERAL", 6, {1});
-    ASSERT_TRUE(desk.registers(next, paidWith(next, 0, 0, next.importeTotal)));
+    ASSERT_TRUE(desk.registers(next, paidWith(next, 0, 0, next.amounts.importeTotal)));
     EXPECT_EQ(desk.frame.figuresRefreshed, 1);
 }
 
 TEST_F(Registering, APrinterThatFailsLeavesTheNoteWrittenAndCounted) {
     const NoteDraft draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
     desk.printing.onPrint = [] { throw report::PrintError("sin papel"); };
-    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(desk.messages.boxes().last().title, "Información");
     EXPECT_EQ(rows("registrovtas", "status, fecha", 1), "GE|" + today());
     EXPECT_EQ(desk.nextNote(), 2);
@@ -323,7 +320,7 @@ TEST_F(Registering, APainterThatCannotBeginEndsInTheSameBox) {
         report::printTo(layoutReceipt(desk.receipt.content(), "ORIGINAL"), printer);
     };
     const NoteDraft draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
-    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(rows("registrovtas", "status, fecha", 1), "GE|" + today());
     EXPECT_EQ(desk.nextNote(), 2);
     EXPECT_TRUE(desk.printing.records.isEmpty());
@@ -332,15 +329,15 @@ TEST_F(Registering, APainterThatCannotBeginEndsInTheSameBox) {
 TEST_F(Registering, TheCounterStaysOnTheLastNumberThatAColumnHolds) {
     test::run(records.clinic, "update datoscaja set nota_vta = 2147483647 where num_caja = 1");
     const NoteDraft draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
-    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(rows("registrovtas", "status, recibo", 2147483647), "GE|1-2147483647");
     EXPECT_EQ(desk.nextNote(), 2147483647);
 }
 
 TEST_F(Registering, ANumberThatIsNoneWritesNothing) {
     NoteDraft draft = desk.note("AL - ALUMNOS", 8, {1});
-    draft.matricula = "12-";
-    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.importeTotal)));
+    draft.payer.matricula = "12-";
+    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
     EXPECT_EQ(rows("registrovtas", "status, fecha", 1), "");
     EXPECT_EQ(desk.nextNote(), 1);
 }

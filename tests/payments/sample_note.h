@@ -31,21 +31,21 @@ inline NoteDraft noteDraft(const QString &row, const QList<NoteLine> &lines, int
                            const QString &anticipo = QStringLiteral("N")) {
     NoteDraft draft;
     draft.notaActual = 1532;
-    draft.servicio = row;
-    draft.tipoServ = tipoServOf(row);
-    draft.cadenaServicio = cadenaServicioOf(row);
-    draft.area = {10, QStringLiteral("INFANTIL"), anticipo};
+    draft.service.row = row;
+    draft.service.tipoServ = tipoServOf(row);
+    draft.service.cadenaServicio = cadenaServicioOf(row);
+    draft.service.area = {10, QStringLiteral("INFANTIL"), anticipo};
     draft.centroLabel = QStringLiteral("Clínica norte");
-    draft.paterno = QStringLiteral("LÓPEZ");
-    draft.materno = QStringLiteral("MARTÍNEZ");
-    draft.nombre = QStringLiteral("ANA");
-    draft.matricula = QStringLiteral("0");
-    draft.tipoPacienteRow = {1, QStringLiteral("PACIENTE GENERAL")};
-    draft.porcPrestacion = percent;
+    draft.payer.paterno = QStringLiteral("LÓPEZ");
+    draft.payer.materno = QStringLiteral("MARTÍNEZ");
+    draft.payer.nombre = QStringLiteral("ANA");
+    draft.payer.matricula = QStringLiteral("0");
+    draft.payer.tipoPaciente = {1, QStringLiteral("PACIENTE GENERAL")};
+    draft.benefit.porcPrestacion = percent;
     draft.lines = lines;
     const NoteTotals totals = noteTotals(subtotalOf(lines), percent);
-    draft.prestacion = totals.prestacion;
-    draft.importeTotal = totals.importeTotal;
+    draft.amounts.prestacion = totals.prestacion;
+    draft.amounts.importeTotal = totals.importeTotal;
     return draft;
 }
 
@@ -56,7 +56,6 @@ inline Payment paidWith(const NoteDraft &draft, double card, double dollars, dou
     payment.dolares = dollars;
     payment.pesos = pesos;
     recomputeTotals(&payment);
-    payment.confirmado = true;
     return payment;
 }
 

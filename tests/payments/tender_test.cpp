@@ -65,9 +65,9 @@ TEST(Tender, AgreesWithIntegersOverRandomNotes) {
         const NoteDraft draft = one.draft();
         ASSERT_EQ(Money::rounded(subtotalOf(draft.lines)).tenThousandths(),
                   one.subtotalCentavos() * 100);
-        ASSERT_EQ(Money::rounded(draft.prestacion).tenThousandths(),
+        ASSERT_EQ(Money::rounded(draft.amounts.prestacion).tenThousandths(),
                   one.subtotalCentavos() * one.percent);
-        ASSERT_EQ(Money::rounded(draft.importeTotal).tenThousandths(), one.dueTenThousandths());
+        ASSERT_EQ(Money::rounded(draft.amounts.importeTotal).tenThousandths(), one.dueTenThousandths());
 
         Payment payment = openPayment(draft, static_cast<double>(one.rate) / 10000);
         payment.tarjetaCredito = static_cast<double>(one.card) / 100;
@@ -152,16 +152,15 @@ TEST(Tender, OpensByBenefitAndAdvance) {
 TEST(Tender, WholeBenefitSkipsTheDialogOnDossierServices) {
     NoteDraft draft = draftOf(350, 100, "N");
     for (const QString &row : serviceTypeRows(false)) {
-        draft.tipoServ = tipoServOf(row);
+        draft.service.tipoServ = tipoServOf(row);
         const bool skips =
-            draft.tipoServ == "AE" || draft.tipoServ == "AP" || draft.tipoServ == "LE";
+            draft.service.tipoServ == "AE" || draft.service.tipoServ == "AP" || draft.service.tipoServ == "LE";
         EXPECT_EQ(skipsDialog(draft), skips) << row.toStdString();
     }
-    draft.tipoServ = "AP";
-    draft.porcPrestacion = 99;
+    draft.service.tipoServ = "AP";
+    draft.benefit.porcPrestacion = 99;
     EXPECT_FALSE(skipsDialog(draft));
     const Payment skipped = skippedPayment(draftOf(350, 100, "N"), 18.5);
-    EXPECT_TRUE(skipped.confirmado);
     EXPECT_EQ(skipped.importeTotal, 350);
     EXPECT_EQ(skipped.prestacion, 350);
     EXPECT_EQ(skipped.importeAPagar, 0);

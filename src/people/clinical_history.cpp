@@ -1,4 +1,4 @@
-#include "payments/clinical_history.h"
+#include "people/clinical_history.h"
 
 #include "data/clinical_history_columns.h"
 

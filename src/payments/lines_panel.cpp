@@ -1,0 +1,438 @@
+#include "payments/lines_panel.h"
+
+#include <QScopeGuard>
+
+#include <limits>
+#include <utility>
+
+#include "app/binding.h"
+#include "data/query_rows.h"
+#include "data/runtime_texts.h"
+#include "payments/totals.h"
+
+namespace kaldo {
+
+namespace {
+
+const QString &clave() {
+    static const QString field = QStringLiteral("CVE_PROD");
+    return field;
+}
+const QString &cantidad() {
+    static const QString field = QStringLiteral("CANT");
+    return field;
+}
+const QString &precio() {
+    static const QString field = QStringLiteral("PRECIO");
+    return field;
+}
+
+constexpr int kOldestChild = 14;
+constexpr int kHighestQuantity = std::numeric_limits<qint16>::max();
+/// What the payment dialog can take.
+constexpr double kHighestPrice = 999999999.99;
+
+/// The columns of the working table that the cashier sees. Only what a person types is editable.
+QList<GridColumn> lineColumns() {
+    return {
+        GridColumn(clave(), QStringLiteral("Clave"), 9).align(Qt::AlignLeft).editable(),
+        GridColumn(QStringLiteral("DESCRIPCION"), QStringLiteral("Descripción"), 50)
+            .editable()
+            .upper()
+            .limit(200)
+            .stretch(),
+        GridColumn(cantidad(), QStringLiteral("Cant"), 7)
+            .mask(CellMask::Integer)
+            .limit(9)
+            .allowed(QStringLiteral("0123456789"))
+            .editable(),
+        GridColumn(precio(), QStringLiteral("Precio"), 13)
+            .mask(CellMask::MoneyTight)
+            .limit(15)
+            .allowed(QStringLiteral("0123456789.,$ "))
+            .editable(),
+        GridColumn(QStringLiteral("TOTAL"), QStringLiteral("Total"), 15)
+            .mask(CellMask::MoneyTight)
+            .sum(CellMask::MoneyTight),
+        GridColumn(QStringLiteral("PORCENTAJE"), QStringLiteral("Porcentaje"), 13)
+            .mask(CellMask::MoneySpaced)
+            .sum(CellMask::MoneySpaced)
+            .hidden(),
+    };
+}
+
+NoteLine lineOf(const QueryRow &row) {
+    NoteLine line;
+    line.codigo = row.value(QStringLiteral("CODIGO")).toInt();
+    line.tipoProd = row.value(QStringLiteral("TIPO_PROD")).toInt();
+    if (const QVariant key = row.value(clave()); key.isValid()) {
+        line.cveProd = key.toInt();
+    }
+    line.descripcion = row.text(QStringLiteral("DESCRIPCION"));
+    line.cant = row.value(cantidad()).toInt();
+    line.precio = row.value(precio()).toDouble();
+    line.total = row.value(QStringLiteral("TOTAL")).toDouble();
+    line.prog = row.text(QStringLiteral("PROG"));
+    line.subsubcta = row.value(QStringLiteral("SUBSUBCTA")).toInt();
+    line.claveProdServ = row.value(QStringLiteral("CLAVEPRODSERV")).toInt();
+    line.descAdic = row.text(QStringLiteral("DESC_ADIC"));
+    line.nomenclatura = row.text(QStringLiteral("NOMENCLATURA"));
+    line.porcentaje = row.value(QStringLiteral("PORCENTAJE")).toDouble();
+    return line;
+}
+
+}  // namespace
+
+LinesPanel::LinesPanel(Context &context, Guard mayCharge)
+    : ScreenBase(context),
+      mayCharge_(std::move(mayCharge)),
+      descripcionAdicional_(context),
+      ClaveRepetida_(context.local.newQuery("ClaveRepetida")),
+      ListaPreciosFace_(context.caja.newQuery("ListaPrecios")),
+      precios_(&context.caja.ListaPrecios) {}
+
+// ---- The form
+
+form::Item LinesPanel::items() {
+    using namespace form;
+    const auto rowButton = [this](Button **where, const char *name, const char *caption,
+                                  const char *icon, const char *hint,
+                                  void (LinesPanel::*handler)()) {
+        return button(where, QString::fromLatin1(name), QString::fromUtf8(caption))
+            .icon(QString::fromLatin1(icon))
+            .hint(QString::fromUtf8(hint))
+            .clicked([this, handler] { (this->*handler)(); });
+    };
+    return column({row({rowButton(&agregar_, "AgregarRegistro", "A&gregar Registro", "insert",
+                                  "Agregar Registro (Insert)", &LinesPanel::agregarRegistro),
+                        rowButton(&borrar_, "BorrarRegistro", "&Borrar Registro", "delete",
+                                  "Borrar Registro (Ctrl+Supr)", &LinesPanel::borrarRegistro),
+                        rowButton(&grabar_, "GrabarInformacion", "Grabar &Información", "save",
+                                  "Grabar Información", &LinesPanel::grabarInformacion),
+                        rowButton(&cancelar_, "CancelarRegistro", "Ca&ncelar Registro", "undo",
+                                  "Cancelar Registro (Esc)", &LinesPanel::cancelarRegistro)
+                            .escape(),
+                        stretch()}),
+                   grid(&grid_, QStringLiteral("Detalle"))
+                       .accessible(QStringLiteral("Conceptos de la nota"))
+                       .hint(QStringLiteral("Doble clic o F6: Descripción Adicional"))
+                       .columns(lineColumns())
+                       .enterColumn([this](const QString &field) { enterColumn(field); })
+                       .key(Qt::Key_F6, [this] { descripcionAdicional(); })
+                       .grow()});
+}
+
+void LinesPanel::attach() {
+    bindGrid(grid_, &table());
+    connectGuarded(grid_, &DataGrid::closedUp, this,
+                   [this](const QString &, int row) { conceptPicked(row); });
+    connectGuarded(grid_, &DataGrid::resolved, this,
+                   [this](const QString &, int row) { keyResolved(row); });
+    grid_->setDoubleClickHandler([this] { descripcionAdicional(); });
+    grid_->setEscapeHandler([this] {
+        if (editing_) {
+            cancelarRegistro();
+        }
+    });
+}
+
+void LinesPanel::detach() {
+    grid_->setModel(nullptr);
+}
+
+void LinesPanel::enable(const NoteButtons &on) {
+    agregar_->setEnabled(on.agregar);
+    borrar_->setEnabled(on.borrar);
+    grabar_->setEnabled(on.grabar);
+    cancelar_->setEnabled(on.cancelar);
+}
+
+void LinesPanel::focus() {
+    moveFocus(editing_ ? static_cast<QWidget *>(grid_) : agregar_);
+}
+
+// ---- The price list
+
+bool LinesPanel::openPrices(int tipoProd) {
+    tipoProd_ = tipoProd;
+    precios_ = &context().caja.ListaPrecios;
+    precios_->open({{QStringLiteral("tipo_prod"), tipoProd}});
+    showPriceList();
+    return !precios_->isEmpty();
+}
+
+void LinesPanel::openPricesForAge(int edad) {
+    ListaPreciosFace_->setText(listaPreciosFaceText(tipoProd_, edad <= kOldestChild));
+    ListaPreciosFace_->open();
+    precios_ = ListaPreciosFace_.get();
+    showPriceList();
+}
+
+/// "Clave" of the grid chooses from the list in force.
+void LinesPanel::showPriceList() {
+    grid_->setLookup(
+        clave(), {precios_,
+                  clave(),
+                  QStringLiteral("DESCR"),
+                  {{QStringLiteral("DESCR"), QStringLiteral("Descripción"), 62, CellMask::Text},
+                   {QStringLiteral("MENUDEO"), QStringLiteral("Precio"), 14,
+                    CellMask::MoneyTight}}});
+}
+
+// ---- The buttons
+
+void LinesPanel::empty() {
+    table().cancelUpdates();
+    context().local.LimpiarTabla.execute({});
+    table().reopen();
+    NoEditar();
+}
+
+void LinesPanel::agregarRegistro() {
+    table().append();
+    table().set(QStringLiteral("NUM_CAJA"), int(session().NumCaja));
+    table().set(QStringLiteral("NOTA_VTA"), nota_);
+    table().set(QStringLiteral("TIPO_PROD"), tipoProd_);
+    Editar();
+    grid_->setCurrentField(clave());
+    moveFocus(grid_);
+}
+
+void LinesPanel::Editar() {
+    editing_ = true;
+    conceptTaken_ = false;
+    claveRechazada_ = false;
+    grid_->setRowSelection(true);
+    emit changed();
+}
+
+void LinesPanel::NoEditar() {
+    editing_ = false;
+    conceptTaken_ = false;
+    grid_->setRowSelection(false);
+    lines_ = readLines();
+    emit changed();
+}
+
+QList<NoteLine> LinesPanel::readLines() {
+    return mapRows(table(), lineOf);
+}
+
+void LinesPanel::grabarInformacion() {
+    if (!grid_->commitEditor()) {
+        return;
+    }
+    if (conceptoPendiente()) {
+        moveFocus(grid_);
+        enterClave();
+        return;
+    }
+    if (!cantidadCabe()) {
+        goToColumn(cantidad());
+        return;
+    }
+    if (!precioCabe()) {
+        goToColumn(precio());
+        return;
+    }
+    if (table().isNull(cantidad()) || table().isNull(precio())) {
+        messages().information(
+            QStringLiteral("Ocurrio un error, verifique que los datos esten completos."));
+    }
+    table().set(QStringLiteral("TOTAL"),
+                lineTotal(table().integer(cantidad()), table().number(precio())));
+    const QVariant codigo = table().value(QStringLiteral("CODIGO"));
+    table().post();
+    table().apply();
+    table().reopen();
+    table().locate({{QStringLiteral("CODIGO"), codigo}});
+    NoEditar();
+    moveFocus(agregar_);
+}
+
+void LinesPanel::cancelarRegistro() {
+    grid_->cancelEditor();
+    table().cancelUpdates();
+    table().reopen();
+    NoEditar();
+    moveFocus(agregar_);
+}
+
+void LinesPanel::borrarRegistro() {
+    if (messages().confirmLoss(QStringLiteral("¿Desea borrar este concepto?"), grid_->rowText()) ==
+        Answer::Yes) {
+        auto backAgain = qScopeGuard([this] { table().cancelUpdates(); });
+        table().remove();
+        table().apply();
+        backAgain.dismiss();
+        table().reopen();
+    }
+    NoEditar();
+    moveFocus(agregar_);
+}
+
+void LinesPanel::descripcionAdicional() {
+    if (editing_ || table().isEmpty()) {
+        return;
+    }
+    table().edit();
+    descripcionAdicional_.showModal();
+    NoEditar();
+    moveFocus(grid_);
+}
+
+// ---- The open row
+
+void LinesPanel::conceptPicked(int row) {
+    // The picked concept becomes the price list's current row before anything else looks at it.
+    precios_->moveTo(row);
+    if (!mayCharge_(precios_->integer(QStringLiteral("CODIGO")))) {
+        table().set(clave(), QVariant());
+    }
+    claveRechazada_ = false;
+}
+
+void LinesPanel::keyResolved(int row) {
+    if (row < 0) {
+        claveRechazada_ = true;
+        messages().information(
+            QStringLiteral("La clave no se encuentra en la lista de precios, vuelva a intentar."));
+        return;
+    }
+    conceptPicked(row);
+    claveRechazada_ = table().isNull(clave());
+}
+
+void LinesPanel::enterColumn(const QString &field) {
+    if (!editing_) {
+        return;
+    }
+    if (field == clave()) {
+        enterClave();
+    } else if (field == cantidad()) {
+        enterCantidad();
+    } else if (field == precio()) {
+        enterPrecio();
+    }
+}
+
+void LinesPanel::enterClave() {
+    if (std::exchange(claveRechazada_, false)) {
+        stayInColumn(clave());
+        return;
+    }
+    const QVariant key = table().value(clave());
+    if (!key.isValid() && precios_->isEmpty()) {
+        refuse(clave(), QStringLiteral("La clave es campo obligatorio, presione cualquier tecla "
+                                       "para continuar."));
+        return;
+    }
+    ClaveActual_ = key;
+    ClaveRepetida_->setText(claveRepetidaText(key));
+    ClaveRepetida_->open();
+    if (!ClaveRepetida_->isEmpty() || conceptoRepetido()) {
+        table().set(clave(), QVariant());
+        refuse(clave(), QStringLiteral("La clave ya se encuentra registrada, presione cualquier "
+                                       "tecla para continuar."));
+        return;
+    }
+    // An empty key takes a concept that nobody picked.
+    if (!key.isValid() && !mayCharge_(precios_->integer(QStringLiteral("CODIGO")))) {
+        stayInColumn(clave());
+        return;
+    }
+    takeConcept();
+    stayInColumn(QStringLiteral("DESCRIPCION"));
+}
+
+/// Another line charges the price list's current concept already, perhaps under an empty "Clave":
+/// a note that charges it twice could not be registered.
+bool LinesPanel::conceptoRepetido() {
+    const int codigo = precios_->integer(QStringLiteral("CODIGO"));
+    const QList<NoteLine> all = readLines();
+    for (int row = 0; row < all.size(); ++row) {
+        if (row != table().position() && all.at(row).codigo == codigo) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The row has no concept yet, or that of another key than it shows.
+bool LinesPanel::conceptoPendiente() const {
+    return table().isNull(QStringLiteral("CODIGO")) || table().value(clave()) != ClaveActual_;
+}
+
+/// The line takes what the price list's current row says, also where "Clave" was left empty.
+void LinesPanel::takeConcept() {
+    for (const char *field : {"CODIGO", "SUBSUBCTA", "CLAVEPRODSERV", "NOMENCLATURA"}) {
+        const QString name = QString::fromLatin1(field);
+        table().set(name, precios_->value(name));
+    }
+    table().set(QStringLiteral("DESCRIPCION"), precios_->value(QStringLiteral("DESCR")));
+    // What an older list holds in fractions of a centavo is charged as it is shown.
+    const QVariant price = precios_->value(QStringLiteral("MENUDEO"));
+    table().set(precio(), price.isValid() ? QVariant(roundedToCents(price.toDouble())) : price);
+    const QString prog = precios_->text(QStringLiteral("PROG"));
+    table().set(QStringLiteral("PROG"), prog.isEmpty() ? session().Prog.text() : prog);
+    conceptTaken_ = true;
+    emit changed();
+}
+
+void LinesPanel::enterCantidad() {
+    if (table().number(cantidad()) <= 0) {
+        refuse(cantidad(), QStringLiteral("Campo obligatorio, vuelva a intentar."));
+    } else if (!cantidadCabe()) {
+        stayInColumn(cantidad());
+    } else if (table().number(precio()) > 0) {
+        grabarInformacion();
+    } else {
+        stayInColumn(precio());
+    }
+}
+
+bool LinesPanel::cantidadCabe() {
+    if (table().number(cantidad()) <= kHighestQuantity) {
+        return true;
+    }
+    messages().warning(QStringLiteral("La cantidad no puede ser mayor que %1, vuelva a intentar.")
+                           .arg(kHighestQuantity));
+    return false;
+}
+
+void LinesPanel::enterPrecio() {
+    if (!precioCabe()) {
+        stayInColumn(precio());
+    } else if (table().number(precio()) > 0) {
+        grabarInformacion();
+    } else {
+        refuse(cantidad(), QStringLiteral("El precio debe ser mayor que cero, presione cualquier "
+                                          "tecla para continuar."));
+    }
+}
+
+bool LinesPanel::precioCabe() {
+    if (table().number(precio()) <= kHighestPrice) {
+        return true;
+    }
+    messages().warning(QStringLiteral("El precio no puede ser mayor que %1, vuelva a intentar.")
+                           .arg(formatMoney(kHighestPrice)));
+    return false;
+}
+
+void LinesPanel::refuse(const QString &field, const QString &text) {
+    messages().information(text);
+    stayInColumn(field);
+}
+
+void LinesPanel::stayInColumn(const QString &field) {
+    stayHere();
+    grid_->setCurrentField(field);
+}
+
+void LinesPanel::goToColumn(const QString &field) {
+    grid_->setCurrentField(field);
+    moveFocus(grid_);
+}
+
+}  // namespace kaldo

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace kaldo {
+
+class NamedQuery;
+
+/// A patient's dossier with what the desks ask of it.
+struct Dossier {
+    QString expediente;
+    int folio = 0;  ///< of its admission
+    int prestacion = 0;
+    QString centro;       ///< trimmed
+    QString centroDescr;  ///< its words
+    int numEmpleado = 0;  ///< whose benefit it has
+    QString empleado;
+    QString dependencia;
+    QString status;  ///< "AU" while in force, "CA" when cancelled
+    QString paterno;
+    QString materno;
+    QString paciente;
+    int edad = 0;
+    QString canalizadoA;  ///< student number, empty or "0" for none
+    QString alumno;
+};
+
+/// The first dossier whose number begins with `number` in the campuses that begin with `campus`;
+/// unset for none. `expe` is a query of the asking screen and stays open on it.
+std::optional<Dossier> findDossier(NamedQuery &expe, const QString &number, const QString &campus);
+
+}  // namespace kaldo
