@@ -13,20 +13,19 @@ constexpr int kOldestChild = 13;
 
 form::Item BirthStrip::item() {
     using namespace form;
-    return strip(
-               &panel_, QStringLiteral("PanelNacimiento"),
-               {date(&fecha_, QStringLiteral("DateEdit2"), QStringLiteral("Fec. de Nacimiento"))
-                    .leave([this] { leaveNacimiento(); }),
-                text(&edad_, QStringLiteral("Edad"), QStringLiteral("Edad")).width(3).readOnly(),
-                label(QStringLiteral("Sexo")),
-                radio(&RadioGroup2_, QStringLiteral("RadioGroup2"), QString())
-                    .accessible(QStringLiteral("Sexo"))
-                    .options({QStringLiteral("Femenino"), QStringLiteral("Masculino")})
-                    .clicked([this](int index) {
-                        sexo_ = index == 0 ? Sex::Femenino : Sex::Masculino;
-                        emit answered();
-                    }),
-                stretch()})
+    return strip(&panel_, QStringLiteral("PanelNacimiento"),
+                 {date(&fecha_, QStringLiteral("DateEdit2"), QStringLiteral("Fec. de Nacimiento"))
+                      .leave([this] { leaveNacimiento(); }),
+                  text(&edad_, QStringLiteral("Edad"), QStringLiteral("Edad")).width(3).readOnly(),
+                  label(QStringLiteral("Sexo")),
+                  radio(&RadioGroup2_, QStringLiteral("RadioGroup2"), QString())
+                      .accessible(QStringLiteral("Sexo"))
+                      .options({QStringLiteral("Femenino"), QStringLiteral("Masculino")})
+                      .clicked([this](int index) {
+                          sexo_ = index == 0 ? Sex::Femenino : Sex::Masculino;
+                          emit answered();
+                      }),
+                  stretch()})
         .grow();
 }
 

@@ -78,11 +78,11 @@ form::Item FRM401_3::tenderItems() {
              label("Tipo de Cambio:"), label(&LabelTipoCambio_, "LabelTipoCambio").bold()}),
         tender(&CEdit4_, "CEdit4", "Pesos")
             .arrive(arrive(&CEdit4_))
-            .enter([this] { enterPesos(); })
+            .enter([this] { enterUltimo(); })
             .leave(leave),
         tender(&CEdit5_, "CEdit5", "Cheque")
             .arrive(arrive(&CEdit5_))
-            .enter([this] { Totales(); })
+            .enter([this] { enterUltimo(); })
             .leave(leave),
     });
 }

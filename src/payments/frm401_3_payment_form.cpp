@@ -172,6 +172,7 @@ void FRM401_3::llegarATarjeta() {
 }
 
 void FRM401_3::teclearTarjeta(double importe) {
+    typeTaken_ = false;
     if (importe <= 0 || payment_.tipoDeTarjeta != CardKind::None) {
         return;
     }
@@ -185,12 +186,15 @@ void FRM401_3::teclearTarjeta(double importe) {
 void FRM401_3::enterTarjeta() {
     readBoxes();
     if (cardExceedsDue(payment_)) {
-        payment_.diferencia = payment_.prestacion - payment_.importeAPagar;
-        showTotals();
         messages().warning(
             QStringLiteral("El importe de Tarjeta no puede exceder el importe del recibo de pago, "
                            "vuelva a intentar."));
         CEdit2_->setValue(0);
+        stayHere();
+        return;
+    }
+    if (std::exchange(typeTaken_, false) && payment_.tarjetaCredito == 0) {
+        // The Enter that meant to take the type, which an arrow had taken already.
         stayHere();
         return;
     }
@@ -221,6 +225,7 @@ void FRM401_3::salirDeImporte() {
 
 void FRM401_3::elegirTarjeta(CardKind kind) {
     payment_.tipoDeTarjeta = kind;
+    typeTaken_ = true;
     moveFocus(CEdit2_);
 }
 
@@ -245,7 +250,8 @@ void FRM401_3::enterDolares() {
     Totales();
 }
 
-void FRM401_3::enterPesos() {
+/// Of a box that may be the last one: "Pesos", and "Cheque".
+void FRM401_3::enterUltimo() {
     Totales();
     if (!nothingMissing(payment_)) {
         // Enter must not wander on to the button that closes the window.
@@ -272,6 +278,21 @@ bool FRM401_3::commitFocused() {
     return field == nullptr || field->commit();
 }
 
+/// Asks once where more was typed than anybody hands over: a number in the wrong box.
+bool FRM401_3::meantSo() {
+    if (!farMoreThanDue(payment_)) {
+        return true;
+    }
+    const bool meant =
+        messages().confirm(QStringLiteral("Se reciben %1 para pagar %2, ¿es correcto?")
+                               .arg(formatMoney(payment_.subtotal),
+                                    formatMoney(payment_.importeAPagar))) == Answer::Yes;
+    if (!meant) {
+        moveFocus(payment_.tipoDePago == PaymentKind::ChequeMN ? CEdit5_ : CEdit4_);
+    }
+    return meant;
+}
+
 void FRM401_3::imprimirRecibo() {
     if (!commitFocused()) {
         return;
@@ -281,7 +302,9 @@ void FRM401_3::imprimirRecibo() {
         return;  // pressed from a box, by letter or mouse: the new totals are to be seen first
     }
     if (ready_ && isEnough(payment_)) {
-        accept();
+        if (meantSo()) {
+            accept();
+        }
     } else {
         acceptable(false);
     }

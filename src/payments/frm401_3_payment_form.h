@@ -73,16 +73,18 @@ private:
     void enterTipoDeTarjeta();
     void olvidarTarjeta();
     void enterDolares();
-    void enterPesos();
+    void enterUltimo();
     void enterEdit12();
+    bool meantSo();
     void imprimirRecibo();
     bool commitFocused();
 
     ReceiptPrinter receipt_;
     NoteDraft draft_;
     Payment payment_;
-    bool ready_ = false;  ///< the rate is known and the amounts are this note's
-    double seen_ = 0;     ///< "Subtotal" as the eye had it when the button was pressed
+    bool ready_ = false;      ///< the rate is known and the amounts are this note's
+    bool typeTaken_ = false;  ///< the type of the card was chosen, and nothing typed since
+    double seen_ = 0;         ///< "Subtotal" as the eye had it when the button was pressed
 
     QGroupBox *GroupBox1_ = nullptr;
     QGroupBox *GroupBox2_ = nullptr;

@@ -22,6 +22,10 @@ void FRM401_4::build() {
                     .upper()
                     .width(kDescriptionWidth)
                     .lines(6)
+                    .enter([this] {
+                        memo_->insertPlainText(QStringLiteral("\n"));
+                        stayHere();
+                    })
                     .changed([this] { aplicar_->setEnabled(!memo_->text().trimmed().isEmpty()); })
                     .fill()
                     .grow(),

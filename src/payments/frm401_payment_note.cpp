@@ -1,5 +1,6 @@
 #include "payments/frm401_payment_note.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -192,14 +193,31 @@ void FRM401::RadioGroup1Click() {
     service_.reset();
     Limpiar();
     lines_.empty();
+    readNumber();
+    service_.focus();
+}
 
+/// Without a desk there is no number, and the field stays empty.
+void FRM401::readNumber() {
     NamedQuery &desk = context().caja.DatosCaja1;
     desk.open({{QStringLiteral("caja"), int(session().NumCaja)}});
-    // Without a desk there is no number, and the field stays empty.
     NotaActual_ = desk.integer(QStringLiteral("NOTA_VTA"));
     Edit1_->setText(desk.text(QStringLiteral("NOTA_VTA")));
     lines_.setNote(NotaActual_);
-    service_.focus();
+}
+
+/// A dialog above may have been the repair, which moves the counter of the desk.
+void FRM401::activated() {
+    readNumber();
+}
+
+void FRM401::closeEvent(QCloseEvent *event) {
+    const bool written = lines_.editing() || !lines_.lines().isEmpty();
+    if (written && messages().confirm(QStringLiteral(
+                       "La nota tiene conceptos que no se han registrado y se perderán. ¿Desea "
+                       "cerrarla?")) == Answer::No) {
+        event->ignore();
+    }
 }
 
 /// The mode in force chosen once more is no change: a note that is being written stays. Only where
@@ -227,6 +245,12 @@ void FRM401::ClasServicios() {
         return;
     }
     payer_.identify(service);
+    if (payerPath(service.tipoServ) == PayerPath::None) {
+        messages().information(
+            QStringLiteral("%1 no se cobra en esta pantalla: para este servicio no se pide a "
+                           "nadie, y sin saber quién paga no se agregan conceptos.")
+                .arg(service.cadenaServicio));
+    }
     if (!lines_.openPrices(service.area.tipoProd)) {
         messages().information(
             QStringLiteral("No existe lista de precios para est tipo de servicios, presione "
@@ -253,8 +277,7 @@ void FRM401::dossierTaken(std::optional<int> edad) {
 /// Some treatments of the FACE area are charged to a dossier once at a time.
 bool FRM401::treatmentAllowed(int codigo) {
     const QString expediente = payer_.payer().expediente;
-    if (expediente.isEmpty() ||
-        !needsTreatmentCheck(service_.service().area.tipoProd, codigo)) {
+    if (expediente.isEmpty() || !needsTreatmentCheck(service_.service().area.tipoProd, codigo)) {
         return true;
     }
     NamedQuery &check = context().caja.verifica_pagodetratamiento_p;
@@ -271,8 +294,7 @@ bool FRM401::treatmentAllowed(int codigo) {
 
 /// The amounts follow from the lines as they are saved. Nothing is rounded.
 NoteAmounts FRM401::amounts() const {
-    const NoteTotals totals =
-        noteTotals(subtotalOf(lines_.lines()), benefit_.porcPrestacion);
+    const NoteTotals totals = noteTotals(subtotalOf(lines_.lines()), benefit_.porcPrestacion);
     NoteAmounts amounts;
     amounts.prestacion = totals.prestacion;
     amounts.importeTotal = totals.importeTotal;
@@ -308,7 +330,7 @@ void FRM401::registrarInformacion() {
     const NoteDraft written = draft();
     // What the routines would refuse is told before anything is paid.
     checkNumbers(written);
-    const std::optional<AcceptedPayment> accepted = formaPago_.pay(written, this);
+    const std::optional<AcceptedPayment> accepted = formaPago_.pay(written, nullptr);
     if (!accepted) {
         moveFocus(registrar_);
         return;

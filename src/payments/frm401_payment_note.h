@@ -22,8 +22,11 @@ public:
     FRM401(Context &context, FRM401_3 &formaPago, FRMAlumnos &alumnos);
     ~FRM401() override;
 
+    void activated() override;
+
 protected:
     void formCreate() override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     // The form
@@ -35,6 +38,7 @@ private:
 
     // Heading, mode
     void fillHeading();
+    void readNumber();
     void RadioGroup1Click();
     void repetirModo();
     void Limpiar();

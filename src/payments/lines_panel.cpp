@@ -1,5 +1,6 @@
 #include "payments/lines_panel.h"
 
+#include <QKeyEvent>
 #include <QScopeGuard>
 
 #include <limits>
@@ -28,6 +29,8 @@ const QString &precio() {
 }
 
 constexpr int kOldestChild = 14;
+/// Above it a quantity is more likely a key or a price in the wrong column.
+constexpr int kLargeQuantity = 999;
 constexpr int kHighestQuantity = std::numeric_limits<qint16>::max();
 /// What the payment dialog can take.
 constexpr double kHighestPrice = 999999999.99;
@@ -44,7 +47,7 @@ QList<GridColumn> lineColumns() {
         GridColumn(cantidad(), QStringLiteral("Cant"), 7)
             .mask(CellMask::Integer)
             .limit(9)
-            .allowed(QStringLiteral("0123456789"))
+            .allowed(QStringLiteral("0123456789-"))
             .editable(),
         GridColumn(precio(), QStringLiteral("Precio"), 13)
             .mask(CellMask::MoneyTight)
@@ -126,14 +129,42 @@ void LinesPanel::attach() {
     bindGrid(grid_, &table());
     connectGuarded(grid_, &DataGrid::closedUp, this,
                    [this](const QString &, int row) { conceptPicked(row); });
-    connectGuarded(grid_, &DataGrid::resolved, this,
-                   [this](const QString &, int row) { keyResolved(row); });
+    // What there is to say of a typed key is said when the cell is left: a box now would take the
+    // focus from the editor that is being closed.
+    connectGuarded(grid_, &DataGrid::resolved, this, [this](const QString &, int row) {
+        claveDesconocida_ = row < 0;
+        if (row >= 0) {
+            precios_->moveTo(row);
+        }
+    });
+    grid_->setTabHeld(true);
+    grid_->setSortable(false);
+    grid_->installEventFilter(this);
     grid_->setDoubleClickHandler([this] { descripcionAdicional(); });
     grid_->setEscapeHandler([this] {
         if (editing_) {
             cancelarRegistro();
         }
     });
+}
+
+/// F2 and what is typed on a saved line open it; the stroke goes on into the cell. No Tab leaves a
+/// row that is open.
+bool LinesPanel::eventFilter(QObject *watched, QEvent *event) {
+    if (watched != grid_ || event->type() != QEvent::KeyPress) {
+        return QObject::eventFilter(watched, event);
+    }
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (editing_) {
+        return key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+    }
+    const bool shortcut = key->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const bool types = !shortcut && !key->text().isEmpty() && key->text().at(0).isPrint();
+    if (!types && key->key() != Qt::Key_F2) {
+        return false;
+    }
+    runGuarded([this] { corregirRegistro(); });
+    return !editing_;
 }
 
 void LinesPanel::detach() {
@@ -171,12 +202,13 @@ void LinesPanel::openPricesForAge(int edad) {
 /// "Clave" of the grid chooses from the list in force.
 void LinesPanel::showPriceList() {
     grid_->setLookup(
-        clave(), {precios_,
-                  clave(),
-                  QStringLiteral("DESCR"),
-                  {{QStringLiteral("DESCR"), QStringLiteral("Descripción"), 62, CellMask::Text},
-                   {QStringLiteral("MENUDEO"), QStringLiteral("Precio"), 14,
-                    CellMask::MoneyTight}}});
+        clave(),
+        {precios_,
+         clave(),
+         QStringLiteral("DESCR"),
+         {{clave(), QStringLiteral("Clave"), 7, CellMask::Integer},
+          {QStringLiteral("DESCR"), QStringLiteral("Descripción"), 62, CellMask::Text},
+          {QStringLiteral("MENUDEO"), QStringLiteral("Precio"), 14, CellMask::MoneyTight}}});
 }
 
 // ---- The buttons
@@ -194,14 +226,36 @@ void LinesPanel::agregarRegistro() {
     table().set(QStringLiteral("NOTA_VTA"), nota_);
     table().set(QStringLiteral("TIPO_PROD"), tipoProd_);
     Editar();
+    grid_->setColumnEditable(clave(), true);
+    grid_->setColumnEditable(precio(), false);
     grid_->setCurrentField(clave());
     moveFocus(grid_);
+}
+
+/// A saved line is opened again, on its quantity. Its concept stays.
+void LinesPanel::corregirRegistro() {
+    if (editing_ || !agregar_->isEnabled() || table().isEmpty()) {
+        return;
+    }
+    table().edit();
+    Editar();
+    ClaveActual_ = table().value(clave());
+    conceptTaken_ = true;
+    emit changed();
+    grid_->setColumnEditable(clave(), false);
+    grid_->setColumnEditable(precio(), true);
+    if (grid_->currentField() != precio() &&
+        grid_->currentField() != QLatin1String("DESCRIPCION")) {
+        grid_->setCurrentField(cantidad());
+    }
 }
 
 void LinesPanel::Editar() {
     editing_ = true;
     conceptTaken_ = false;
-    claveRechazada_ = false;
+    claveDesconocida_ = false;
+    permitido_ = 0;
+    confirmada_ = 0;
     grid_->setRowSelection(true);
     emit changed();
 }
@@ -227,33 +281,42 @@ void LinesPanel::grabarInformacion() {
         enterClave();
         return;
     }
-    if (!cantidadCabe()) {
-        goToColumn(cantidad());
+    if (!rowComplete()) {
         return;
-    }
-    if (!precioCabe()) {
-        goToColumn(precio());
-        return;
-    }
-    if (table().isNull(cantidad()) || table().isNull(precio())) {
-        messages().information(
-            QStringLiteral("Ocurrio un error, verifique que los datos esten completos."));
     }
     table().set(QStringLiteral("TOTAL"),
                 lineTotal(table().integer(cantidad()), table().number(precio())));
-    const QVariant codigo = table().value(QStringLiteral("CODIGO"));
     table().post();
     table().apply();
-    table().reopen();
-    table().locate({{QStringLiteral("CODIGO"), codigo}});
+    // Not opened anew: the table would give its rows in an order of its own.
     NoEditar();
     moveFocus(agregar_);
+}
+
+/// What a line needs before it is saved, whatever the way to the button. Goes to the column that
+/// lacks it.
+bool LinesPanel::rowComplete() {
+    if (!cantidadCabe()) {
+        goToColumn(cantidad());
+        return false;
+    }
+    if (!precioCabe()) {
+        goToColumn(precio());
+        return false;
+    }
+    const bool without = table().isNull(cantidad()) || table().number(cantidad()) < 0;
+    if (without || table().number(precio()) <= 0) {
+        messages().information(
+            QStringLiteral("Ocurrio un error, verifique que los datos esten completos."));
+        goToColumn(without ? cantidad() : precio());
+        return false;
+    }
+    return true;
 }
 
 void LinesPanel::cancelarRegistro() {
     grid_->cancelEditor();
     table().cancelUpdates();
-    table().reopen();
     NoEditar();
     moveFocus(agregar_);
 }
@@ -265,7 +328,6 @@ void LinesPanel::borrarRegistro() {
         table().remove();
         table().apply();
         backAgain.dismiss();
-        table().reopen();
     }
     NoEditar();
     moveFocus(agregar_);
@@ -285,22 +347,19 @@ void LinesPanel::descripcionAdicional() {
 
 void LinesPanel::conceptPicked(int row) {
     // The picked concept becomes the price list's current row before anything else looks at it.
+    claveDesconocida_ = false;
     precios_->moveTo(row);
-    if (!mayCharge_(precios_->integer(QStringLiteral("CODIGO")))) {
+    if (!conceptoPermitido()) {
         table().set(clave(), QVariant());
     }
-    claveRechazada_ = false;
 }
 
-void LinesPanel::keyResolved(int row) {
-    if (row < 0) {
-        claveRechazada_ = true;
-        messages().information(
-            QStringLiteral("La clave no se encuentra en la lista de precios, vuelva a intentar."));
-        return;
+bool LinesPanel::conceptoPermitido() {
+    const int codigo = precios_->integer(QStringLiteral("CODIGO"));
+    if (codigo != permitido_ && mayCharge_(codigo)) {
+        permitido_ = codigo;
     }
-    conceptPicked(row);
-    claveRechazada_ = table().isNull(clave());
+    return codigo == permitido_;
 }
 
 void LinesPanel::enterColumn(const QString &field) {
@@ -317,8 +376,9 @@ void LinesPanel::enterColumn(const QString &field) {
 }
 
 void LinesPanel::enterClave() {
-    if (std::exchange(claveRechazada_, false)) {
-        stayInColumn(clave());
+    if (std::exchange(claveDesconocida_, false)) {
+        refuse(clave(), QStringLiteral("La clave no se encuentra en la lista de precios, vuelva a "
+                                       "intentar."));
         return;
     }
     const QVariant key = table().value(clave());
@@ -336,8 +396,8 @@ void LinesPanel::enterClave() {
                                        "tecla para continuar."));
         return;
     }
-    // An empty key takes a concept that nobody picked.
-    if (!key.isValid() && !mayCharge_(precios_->integer(QStringLiteral("CODIGO")))) {
+    if (!conceptoPermitido()) {
+        table().set(clave(), QVariant());
         stayInColumn(clave());
         return;
     }
@@ -376,11 +436,15 @@ void LinesPanel::takeConcept() {
     const QString prog = precios_->text(QStringLiteral("PROG"));
     table().set(QStringLiteral("PROG"), prog.isEmpty() ? session().Prog.text() : prog);
     conceptTaken_ = true;
+    // A price that the list gives is not asked for.
+    grid_->setColumnEditable(precio(), table().number(precio()) <= 0);
     emit changed();
 }
 
 void LinesPanel::enterCantidad() {
-    if (table().number(cantidad()) <= 0) {
+    if (conceptoPendiente()) {
+        enterClave();
+    } else if (table().number(cantidad()) <= 0) {
         refuse(cantidad(), QStringLiteral("Campo obligatorio, vuelva a intentar."));
     } else if (!cantidadCabe()) {
         stayInColumn(cantidad());
@@ -392,8 +456,16 @@ void LinesPanel::enterCantidad() {
 }
 
 bool LinesPanel::cantidadCabe() {
-    if (table().number(cantidad()) <= kHighestQuantity) {
+    const int quantity = table().integer(cantidad());
+    if (quantity <= kLargeQuantity || quantity == confirmada_) {
         return true;
+    }
+    if (quantity <= kHighestQuantity) {
+        const bool meant =
+            messages().confirm(
+                QStringLiteral("La cantidad es de %1, ¿es correcta?").arg(quantity)) == Answer::Yes;
+        confirmada_ = meant ? quantity : 0;
+        return meant;
     }
     messages().warning(QStringLiteral("La cantidad no puede ser mayor que %1, vuelva a intentar.")
                            .arg(kHighestQuantity));
@@ -401,7 +473,9 @@ bool LinesPanel::cantidadCabe() {
 }
 
 void LinesPanel::enterPrecio() {
-    if (!precioCabe()) {
+    if (conceptoPendiente()) {
+        enterClave();
+    } else if (!precioCabe()) {
         stayInColumn(precio());
     } else if (table().number(precio()) > 0) {
         grabarInformacion();

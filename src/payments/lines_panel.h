@@ -57,8 +57,10 @@ signals:
     /// Lines or the open row are not what they were.
     void changed();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
-    void wireGrid();
     void showPriceList();
 
     void agregarRegistro();
@@ -69,15 +71,17 @@ private:
     void Editar();
     void NoEditar();
 
+    void corregirRegistro();
     void conceptPicked(int row);
-    void keyResolved(int row);
     void enterColumn(const QString &field);
     void enterClave();
     void enterCantidad();
     void enterPrecio();
     void takeConcept();
     bool conceptoRepetido();
+    bool conceptoPermitido();
     bool conceptoPendiente() const;
+    bool rowComplete();
     bool cantidadCabe();
     bool precioCabe();
     void refuse(const QString &field, const QString &text);
@@ -99,8 +103,9 @@ private:
     QVariant ClaveActual_;
     bool editing_ = false;
     bool conceptTaken_ = false;
-    /// The key typed last was cleared: the same Enter goes no further.
-    bool claveRechazada_ = false;
+    bool claveDesconocida_ = false;  ///< the key typed last is not on the price list
+    int permitido_ = 0;              ///< `CODIGO` of the concept that was found chargeable last
+    int confirmada_ = 0;             ///< the large quantity that the cashier said is meant
 
     Button *agregar_ = nullptr;
     Button *borrar_ = nullptr;

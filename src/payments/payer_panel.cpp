@@ -152,6 +152,10 @@ void PayerPanel::accept() {
 }
 
 void PayerPanel::acceptAndGoOn() {
+    if (Edit2_->text() != found_.expediente) {
+        moveFocus(Edit2_);  // another number was typed there, and not looked up
+        return;
+    }
     accept();
     emit identified();
 }
@@ -213,8 +217,7 @@ void PayerPanel::buscarExpediente() {
     } else if (!ageWithin(dossier->edad, limits.integer(QStringLiteral("EDADMIN")),
                           limits.integer(QStringLiteral("EDADMAX")))) {
         messages().information(
-            QStringLiteral(
-                "La edad del paciente es de %1 años y no corresponde a la categoría de ")
+            QStringLiteral("La edad del paciente es de %1 años y no corresponde a la categoría de ")
                 .arg(dossier->edad) +
             service_.area.descr);
         refuseDossier();
@@ -244,7 +247,7 @@ bool PayerPanel::deEsteCentro(const Dossier &dossier) {
 }
 
 void PayerPanel::DatosExpediente(const Dossier &dossier, std::optional<int> edad) {
-    if (!useDossier(dossier)) {
+    if (messages().confirm(useDossierQuestion(dossier)) != Answer::Yes) {
         refuseDossier();
         picker_.hide();
         return;
@@ -254,6 +257,7 @@ void PayerPanel::DatosExpediente(const Dossier &dossier, std::optional<int> edad
     if (!takeEmployeeOf(dossier)) {
         return;
     }
+    found_.expediente = dossier.expediente;
     const bool diploma = service_.tipoServ == QLatin1String("AP") &&
                          service_.area.descr == QLatin1String("SERVICIOS DE DIPLOMADOS");
     if (!diploma && options().sector == Sector::Educativo) {
@@ -262,12 +266,6 @@ void PayerPanel::DatosExpediente(const Dossier &dossier, std::optional<int> edad
     } else {
         acceptAndGoOn();
     }
-}
-
-bool PayerPanel::useDossier(const Dossier &dossier) {
-    return messages().confirm(QStringLiteral("Desea usar la información seleccionada de ") +
-                              dossier.paciente + u' ' + dossier.paterno.trimmed() + u' ' +
-                              dossier.materno.trimmed() + QStringLiteral(" ?")) == Answer::Yes;
 }
 
 void PayerPanel::showDossier(const Dossier &dossier) {
@@ -334,11 +332,7 @@ std::optional<Parameters> PayerPanel::listaDeExpedientes() {
     const DossierListFilter filter =
         dossierListFilter(service_.area.edadMin, service_.area.edadMax, service_.area.descr,
                           options().ExpedientesOtrosCentros);
-    return Parameters{{QStringLiteral("CENT"), session().Centro.text()},
-                      {QStringLiteral("CD"), session().Origen.text()},
-                      {QStringLiteral("FECHA"), since},
-                      {QStringLiteral("TIPO"), filter.tipo},
-                      {QStringLiteral("BAN"), filter.ban}};
+    return dossierListParameters(filter, session().Centro.text(), session().Origen.text(), since);
 }
 
 // ---- Names, birth, employee
@@ -466,18 +460,17 @@ form::Item PayerPanel::items() {
                             .grow();
     // Enabled and disabled as one for the path of the service; the birth strip and the employee's
     // benefit never stand together and share their row.
-    return column(
-        {panel(&panelPaciente_, QStringLiteral("PanelPaciente"),
-               column({dossierItems(), nameItems()}))
-             .fill(),
-         panel(&panelOtros_, QStringLiteral("PanelOtros"),
-               row({student_.item(), panel(nullptr, QStringLiteral("PanelDerecho"),
-                                           row({employee_.numberItem(), origin}))
-                                         .grow()}))
-             .fill(),
-         panel(&panelDatos_, QStringLiteral("PanelDatos"),
-               row({birth_.item(), employee_.benefitItem()}))
-             .fill()});
+    return column({panel(&panelPaciente_, QStringLiteral("PanelPaciente"),
+                         column({dossierItems(), nameItems()}))
+                       .fill(),
+                   panel(&panelOtros_, QStringLiteral("PanelOtros"),
+                         row({student_.item(), panel(nullptr, QStringLiteral("PanelDerecho"),
+                                                     row({employee_.numberItem(), origin}))
+                                                   .grow()}))
+                       .fill(),
+                   panel(&panelDatos_, QStringLiteral("PanelDatos"),
+                         row({birth_.item(), employee_.benefitItem()}))
+                       .fill()});
 }
 
 void PayerPanel::attach() {

@@ -71,7 +71,6 @@ private:
     void buscarExpediente();
     bool deEsteCentro(const Dossier &dossier);
     void DatosExpediente(const Dossier &dossier, std::optional<int> edad);
-    bool useDossier(const Dossier &dossier);
     void showDossier(const Dossier &dossier);
     bool takeEmployeeOf(const Dossier &dossier);
     void forgetDossier();

@@ -121,7 +121,8 @@ void fillReceived(ReceiptContent *content, const NoteDraft &draft, const Payment
     content->QRL31 = {QStringLiteral("CHEQUE"), formatMoney(payment.cheque)};
     content->QRL32 = {QStringLiteral("CAMBIO"), formatMoney(payment.cambio)};
     content->QRL33 = QStringLiteral("TIPO DE CAMBIO:  ") + formatMoney(rate);
-    const double charged = draft.benefit.porcPrestacion == 0 ? payment.importeTotal : payment.importeAPagar;
+    const double charged =
+        draft.benefit.porcPrestacion == 0 ? payment.importeTotal : payment.importeAPagar;
     content->QRLetras1 = ImporteEnLetra(Money::rounded(charged).tenThousandths(), WordsOf::Pesos) +
                          QStringLiteral(" M.N. ***");
     if (!payment.banco.trimmed().isEmpty()) {

@@ -71,8 +71,12 @@ void ReceiptPrinter::Recibos(const NoteDraft &draft) {
         if (copy.target == CopyTarget::Preview) {
             context_.printing.preview(document, title, nullptr);
         } else {
+            // A file of it is found again by its desk and number.
             report::PrintJob job;
-            job.title = title;
+            job.title = QStringLiteral("%1 %2-%3")
+                            .arg(title)
+                            .arg(int(context_.session.NumCaja))
+                            .arg(draft.notaActual);
             context_.printing.print(document, job);
         }
     }

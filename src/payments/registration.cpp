@@ -1,7 +1,7 @@
 #include "payments/registration.h"
 
-#include "people/clinical_history.h"
 #include "payments/receipt_printer.h"
+#include "people/clinical_history.h"
 #include "toolkit/core/log.h"
 
 namespace kaldo {
@@ -14,6 +14,7 @@ RegistrationOutcome Registration::registrar(NoteDraft draft, const Payment &paym
         receipt_.Ticket(draft, payment, outcome.extras);
         Folio();
         receipt_.Recibos(draft);
+        tellChange(draft, payment);
         context_.messages.information(
             QStringLiteral("La información ha sido registrada correctamente, presione cualquier "
                            "tecla para continuar."),
@@ -33,6 +34,16 @@ RegistrationOutcome Registration::registrar(NoteDraft draft, const Payment &paym
             title);
     }
     return outcome;
+}
+
+/// Beside the last box, and after it: the dialog that showed the change is gone.
+void Registration::tellChange(const NoteDraft &draft, const Payment &payment) {
+    if (payment.cambio > 0) {
+        context_.frame.showNotice(QStringLiteral("Cambio de la nota %1-%2: %3")
+                                      .arg(int(context_.session.NumCaja))
+                                      .arg(draft.notaActual)
+                                      .arg(formatMoney(payment.cambio)));
+    }
 }
 
 ReceiptExtras Registration::write(const NoteDraft &draft, const Payment &payment) {

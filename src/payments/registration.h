@@ -12,8 +12,8 @@ class ReceiptPrinter;
 
 /// What became of a note.
 struct RegistrationOutcome {
-    bool registered = false;       ///< all of it was done, the receipt and the counter included
-    ReceiptExtras extras;          ///< what the note brought into being
+    bool registered = false;  ///< all of it was done, the receipt and the counter included
+    ReceiptExtras extras;     ///< what the note brought into being
 };
 
 /// Makes a paid note a record: the routines in their settled order, the receipt, the counter of the
@@ -32,6 +32,7 @@ public:
     RegistrationOutcome registrar(NoteDraft draft, const Payment &payment);
 
 private:
+    void tellChange(const NoteDraft &draft, const Payment &payment);
     ReceiptExtras write(const NoteDraft &draft, const Payment &payment);
     void Mpio();
     ReceiptExtras RegistrarNota(const NoteDraft &draft, const Payment &payment);

@@ -97,7 +97,8 @@ double importeOfNote(const NoteDraft &draft, const Payment &payment) {
     if (draft.benefit.porcPrestacion == 100) {
         return subtotalOf(draft.lines);
     }
-    if (!advanceTaken(draft, payment) && sameAmount(draft.amounts.importeTotal, payment.importeTotal)) {
+    if (!advanceTaken(draft, payment) &&
+        sameAmount(draft.amounts.importeTotal, payment.importeTotal)) {
         return subtotalOf(draft.lines);
     }
     return payment.cantidadAnticipo;

@@ -58,14 +58,13 @@ void StudentStrip::buscarAlumno() {
                 QStringLiteral("El Alumno pertenece a la Facultad: %1. Verifique la información "
                                "con Servicios Escolares.")
                     .arg(student.unidadDesc));
-            stayHere();
+            moveFocus(matricula_);
             break;
         case StudentOutcome::Several:
             elegirAlumno(QStringLiteral("Se encontraron varios registros de: ") + student.alumno);
             break;
         case StudentOutcome::NotCurrent:
-            elegirAlumno(QStringLiteral("Se encontró un registro sin vigencia: ") +
-                         student.alumno);
+            elegirAlumno(QStringLiteral("Se encontró un registro sin vigencia: ") + student.alumno);
             break;
         case StudentOutcome::NotOnRoll:
             buscarPosgrado();

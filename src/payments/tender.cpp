@@ -40,6 +40,12 @@ bool isEnough(const Payment &payment) {
     return missing(payment) <= Money();
 }
 
+bool farMoreThanDue(const Payment &payment) {
+    constexpr int kTimes = 100;
+    const double due = payment.importeAPagar;
+    return due > 0 && Money::rounded(payment.subtotal) > Money::rounded(due * kTimes);
+}
+
 bool cardCoversAllButMoreCameIn(const Payment &payment) {
     return sameAmount(payment.tarjetaCredito, payment.importeTotal) &&
            (payment.dolares > 0 || payment.pesos > 0 || payment.cheque > 0);
@@ -76,7 +82,7 @@ void choosePaymentKind(Payment *payment, PaymentKind kind) {
 PaymentLayout paymentLayout(const NoteDraft &draft) {
     if (draft.benefit.porcPrestacion > 0) {
         return draft.service.area.takesAdvances() ? PaymentLayout::AdvanceWithBenefit
-                                          : PaymentLayout::Benefit;
+                                                  : PaymentLayout::Benefit;
     }
     return draft.service.area.takesAdvances() ? PaymentLayout::Advance : PaymentLayout::Plain;
 }

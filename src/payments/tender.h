@@ -22,6 +22,9 @@ bool nothingMissing(const Payment &payment);
 /// The last word before a payment is taken: subtotal ≥ importeAPagar.
 bool isEnough(const Payment &payment);
 
+/// More than a hundred times what is due was typed.
+bool farMoreThanDue(const Payment &payment);
+
 /// The card covers the whole note although money stands in another box as well.
 bool cardCoversAllButMoreCameIn(const Payment &payment);
 

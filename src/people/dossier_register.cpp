@@ -30,4 +30,18 @@ std::optional<Dossier> findDossier(NamedQuery &expe, const QString &number, cons
     return found;
 }
 
+QString useDossierQuestion(const Dossier &dossier) {
+    return QStringLiteral("Desea usar la información seleccionada de ") + dossier.paciente + u' ' +
+           dossier.paterno.trimmed() + u' ' + dossier.materno.trimmed() + QStringLiteral(" ?");
+}
+
+Parameters dossierListParameters(const DossierListFilter &filter, const QString &centro,
+                                 const QString &campus, const QDate &since) {
+    return {{QStringLiteral("CENT"), centro},
+            {QStringLiteral("CD"), campus},
+            {QStringLiteral("FECHA"), since},
+            {QStringLiteral("TIPO"), filter.tipo},
+            {QStringLiteral("BAN"), filter.ban}};
+}
+
 }  // namespace kaldo

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 
 #include <optional>
+
+#include "data/parameters.h"
+#include "people/age.h"
 
 namespace kaldo {
 
@@ -30,5 +34,12 @@ struct Dossier {
 /// The first dossier whose number begins with `number` in the campuses that begin with `campus`;
 /// unset for none. `expe` is a query of the asking screen and stays open on it.
 std::optional<Dossier> findDossier(NamedQuery &expe, const QString &number, const QString &campus);
+
+/// Asks whether the person of a dossier is the one at the window.
+QString useDossierQuestion(const Dossier &dossier);
+
+/// The values of `CargarExp`: the dossiers of a centre in a campus since a day.
+Parameters dossierListParameters(const DossierListFilter &filter, const QString &centro,
+                                 const QString &campus, const QDate &since);
 
 }  // namespace kaldo

@@ -130,6 +130,9 @@ void FRMAcceso::openAtStart() {
 void FRMAcceso::openFromMenu() {
     ensureBuilt();
     main_.CerrarVentana();
+    if (main_.childScreen() != nullptr) {
+        return;  // it refused to close: its work comes first
+    }
     fromMenu_ = true;
     CheckBox1_->hide();
     BitBtn3_->setText(QStringLiteral("Salir de la Ventana"));

@@ -65,6 +65,10 @@ protected:
         EXPECT_EQ(focused(), "RadioGroup2_0");
         press(debit ? Qt::Key_Return : Qt::Key_Right);
         EXPECT_EQ(focused(), "CEdit2");
+        // The Enter that is to take the type does no harm where the arrow took it.
+        press(Qt::Key_Return);
+        EXPECT_EQ(focused(), "CEdit2");
+        EXPECT_TRUE(child<QWidget>(&form, "RadioGroup2")->isVisible());
         typeText(amount);
     }
 
@@ -98,6 +102,23 @@ TEST_F(PaymentForm, PesosAloneAreTypedAndAcceptedWithThreeStrokes) {
     EXPECT_EQ(payment.pesos, 500);
     EXPECT_EQ(payment.cambio, 150);
     EXPECT_EQ(payment.tipoCam, 18.1234);
+}
+
+TEST_F(PaymentForm, MoreThanAnybodyHandsOverIsAskedAbout) {
+    pay(noteOf(80), [&] {
+        typeText("80000");
+        press(Qt::Key_Return);
+        station.messages.expectConfirmation(
+            "Se reciben $80,000.00 para pagar $80.00, ¿es correcto?", Answer::No);
+        press(Qt::Key_Return);
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(focused(), "CEdit4");
+        press(Qt::Key_A, Qt::ControlModifier);
+        typeText("80");
+        press(Qt::Key_Return);
+        press(Qt::Key_Return);
+    });
+    EXPECT_TRUE(confirmado);
 }
 
 TEST_F(PaymentForm, EachOpeningStartsAfresh) {
@@ -158,6 +179,7 @@ TEST_F(PaymentForm, TheCardNeedsATypeAndStaysWithinTheNote) {
         station.messages.expectWarning(kCardTooMuch);
         press(Qt::Key_Return);
         EXPECT_EQ(focused(), "CEdit2");
+        EXPECT_EQ(shown("CEdit9"), "$500.00");
         typeText("500");
         press(Qt::Key_Return);
         EXPECT_EQ(focused(), "ImprimirRecibo");
@@ -211,8 +233,7 @@ TEST_F(PaymentForm, AChequePaysAlone) {
         press(Qt::Key_Return);
         EXPECT_EQ(shown("CEdit9"), "$0.01");
         EXPECT_FALSE(canAccept());
-        child<QWidget>(&form, "CEdit5")->setFocus();
-        test::settle();
+        EXPECT_EQ(focused(), "CEdit5");
         press(Qt::Key_A, Qt::ControlModifier);
         typeText("500");
         press(Qt::Key_Return);

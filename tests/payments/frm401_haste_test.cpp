@@ -133,12 +133,46 @@ TEST_F(PaymentNoteHaste, OnlyTheDossierThatWasTakenIsCharged) {
     typeText("00002/24");
     EXPECT_TRUE(enabled("Registrar"));
     EXPECT_EQ(lines().count(), 1);
-    // What is no number of a student is told before anything is paid.
+    // Nor is a student charged who was never looked up, or who was refused.
     tabTo("Matricula");
     press(Qt::Key_A, Qt::ControlModifier);
-    typeText("5-");
-    station.messages.expectError("La matrícula «5-» no es un número.");
+    typeText("1100003");
+    EXPECT_FALSE(enabled("Registrar"));
     press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(formaPago.isVisible());
+    station.messages.expectInformation(
+        "El Alumno pertenece a la Facultad: FACULTAD DE IDIOMAS. Verifique la información con "
+        "Servicios Escolares.");
+    press(Qt::Key_A, Qt::ControlModifier);
+    typeText("1100010");
+    press(Qt::Key_Return);
+    EXPECT_FALSE(enabled("Registrar"));
+    EXPECT_FALSE(enabled("AgregarRegistro"));
+    typeText("1100003");  // the number that was refused stands selected
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("Matricula"), "1100003");
+    EXPECT_TRUE(enabled("Registrar"));
+    // The student doesn't bring a dossier along that was typed over.
+    tabTo("Edit2", false);
+    press(Qt::Key_A, Qt::ControlModifier);
+    typeText("00001/24");
+    tabTo("Matricula");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focused(), "Edit2");
+    EXPECT_FALSE(enabled("Registrar"));
+    press(Qt::Key_A, Qt::ControlModifier);
+    typeText("00002/24");
+    tabTo("Matricula");
+    press(Qt::Key_Return);
+    EXPECT_TRUE(enabled("Registrar"));
+    // A programme that is no number is told before anything is paid.
+    test::run(station.conexion.FBLocal, "update detallevtas set prog='12-'");
+    lines().reopen();
+    station.messages.expectConfirmation("¿Desea borrar este concepto?", Answer::No);
+    press(Qt::Key_Delete, Qt::ControlModifier);
+    station.messages.expectError("El programa del concepto «12-» no es un número.");
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(formaPago.isVisible());
     EXPECT_EQ(lines().count(), 1);
     EXPECT_TRUE(enabled("Registrar"));
     // The list that is left takes the number off, and the note with it.
@@ -208,6 +242,74 @@ TEST_F(PaymentNoteHaste, AnOpenRowIsGoneOnWithAfterTheNamesWereMended) {
     write({"1", "", "2"});
     EXPECT_EQ(lines().count(), 1);
     EXPECT_EQ(focused(), "AgregarRegistro");
+}
+
+TEST_F(PaymentNoteHaste, NamesThatAreEmptiedAfterTheFirstLineStopTheNote) {
+    open();
+    startAdmission();
+    write({"peralta", "ruiz", "marta"});
+    addLine("1");
+    for (const char *name : {"Paterno", "Nombre"}) {
+        tabTo(name, false);
+        press(Qt::Key_A, Qt::ControlModifier);
+        press(Qt::Key_Delete);
+        EXPECT_FALSE(enabled("Registrar")) << name;
+    }
+    tabTo("Nombre", false);
+    station.messages.expectInformation("Campo Apellido Paterno es Obligatorio.");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focused(), "Paterno");
+    // Another patient passes the question for those who were admitted before.
+    write({"perez", "lopez"});
+    station.messages.expectConfirmation(
+        "Este paciente ya se encuentra registrado con fecha de nacimiento: 20/04/1985, Nota de "
+        "Admisión: 0-0. ¿Desea continuar con la admisión?",
+        Answer::Yes);
+    write({"ana luisa"});
+    EXPECT_TRUE(enabled("Registrar"));
+}
+
+TEST_F(PaymentNoteHaste, ANoteOfAStudentTakesNoPatientTypeOfTheNoteBefore) {
+    open();
+    station.messages.expectConfirmation("Es empleado?", Answer::Yes);
+    chooseService("VA");
+    chooseArea("VAR");
+    write({"2001"});
+    tabTo("ComboBox1", false);
+    chooseService("AL");
+    chooseArea("ALU");
+    write({"2200001"});
+    addLine("1");
+    inDialog(&formaPago, [] {
+        typeText("5000");
+        press(Qt::Key_Return);
+        press(Qt::Key_Return);
+    });
+    station.messages.expectInformation(kRegistered);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(
+        test::valueOf(station.clinic(), "select prestacion from pagos_odontologia where num_caja=1")
+            .toInt(),
+        1);
+    EXPECT_TRUE(station.frame.notices.last().startsWith("Cambio de la nota 1-1: $"));
+}
+
+TEST_F(PaymentNoteHaste, ANoteThatNobodyRegisteredIsNotDroppedUnasked) {
+    open();
+    startAdmission();
+    write({"peralta", "ruiz", "marta"});
+    addLine("1");
+    const QString question =
+        "La nota tiene conceptos que no se han registrado y se perderán. ¿Desea cerrarla?";
+    station.messages.expectConfirmation(question, Answer::No);
+    EXPECT_FALSE(screen->close());
+    EXPECT_EQ(lines().count(), 1);
+    // After the repair, which moves the counter, the open note has the number that is free.
+    test::run(station.clinic(), "update datoscaja set nota_vta=7 where num_caja=1");
+    screen->activated();
+    EXPECT_EQ(text("Edit1"), "7");
+    station.messages.expectConfirmation(question, Answer::Yes);
+    EXPECT_TRUE(screen->close());
 }
 
 TEST_F(PaymentNoteHaste, ALineIsNeverSavedWithoutTheConceptItShows) {
@@ -368,6 +470,9 @@ TEST_F(PaymentNoteHaste, AHalfWrittenNoteIsGoneWithItsScreen) {
     addLine("1");
     press(Qt::Key_Return);
     typeText("2");
+    station.messages.expectConfirmation(
+        "La nota tiene conceptos que no se han registrado y se perderán. ¿Desea cerrarla?",
+        Answer::Yes);
     screen->close();
     screen.reset();
     serviceChosen = false;

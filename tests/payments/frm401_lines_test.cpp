@@ -189,12 +189,67 @@ TEST_F(PaymentNoteLines, QuantitiesAreWholeAndFit) {
     pressLetter(Qt::Key_I);
     EXPECT_EQ(stored().size(), 0);
     EXPECT_EQ(column(), "CANT");
-    // Letters, signs and points are not typed at all.
-    typeText("x-3.2e");
+    // Neither is a line without a quantity saved by the button.
+    press(Qt::Key_F2);
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    station.messages.expectInformation(
+        "Ocurrio un error, verifique que los datos esten completos.");
+    pressLetter(Qt::Key_I);
+    EXPECT_EQ(stored().size(), 0);
+    EXPECT_EQ(column(), "CANT");
+    station.messages.expectInformation("Campo obligatorio, vuelva a intentar.");
+    typeText("-5");
+    press(Qt::Key_Return);
+    EXPECT_EQ(stored().size(), 0);
+    // The price is the list's: neither arrows nor Tab lead to anything but the open row.
+    press(Qt::Key_Right);
+    typeText("7");
+    EXPECT_EQ(lines().number("PRECIO"), prices[0][2].toDouble());
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), "Detalle");
+    press(Qt::Key_Left);
+    station.messages.expectConfirmation("La cantidad es de 1500, ¿es correcta?", Answer::No);
+    typeText("1500");
+    press(Qt::Key_Return);
+    EXPECT_EQ(column(), "CANT");
+    // Letters and points are not typed at all.
+    typeText("x3.2e");
     press(Qt::Key_Return);
     ASSERT_EQ(stored().size(), 1);
     EXPECT_EQ(stored()[0][1].toInt(), 32);
     EXPECT_EQ(focused(), "AgregarRegistro");
+}
+
+TEST_F(PaymentNoteLines, ASavedQuantityIsCorrectedInItsRow) {
+    addLine("1", "2");
+    addLine("2");
+    addLine("3");
+    // The order of typing stays, also where a row went in between.
+    tabTo("Detalle");
+    press(Qt::Key_Up);
+    station.messages.expectConfirmation("¿Desea borrar este concepto?", Answer::Yes);
+    press(Qt::Key_Delete, Qt::ControlModifier);
+    addLine("4");
+    EXPECT_EQ(lines().position(), 2);
+    tabTo("Detalle");
+    press(Qt::Key_Home, Qt::ControlModifier);
+    typeText("30");
+    EXPECT_EQ(lines().position(), 0);
+    EXPECT_EQ(column(), "CANT");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focused(), "AgregarRegistro");
+    EXPECT_EQ(lines().integer("CANT"), 30);
+    tabTo("Detalle");
+    press(Qt::Key_F2);
+    press(Qt::Key_Escape);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(stored().size(), 3);
+    EXPECT_EQ(
+        test::valueOf(station.conexion.FBLocal, "select cant from detallevtas where cve_prod=1")
+            .toInt(),
+        30);
+    EXPECT_TRUE(enabled("Registrar"));
 }
 
 TEST_F(PaymentNoteLines, AConceptWithoutAPriceAsksForOne) {
@@ -314,7 +369,7 @@ TEST_F(PaymentNoteLines, ALineTakesAnAdditionalDescription) {
         EXPECT_EQ(focused(), "Memo1");
         EXPECT_FALSE(child<QWidget>(open, "AplicarCambios")->isEnabled());
         typeText("pieza ");
-        press(Qt::Key_Return, Qt::ControlModifier);
+        press(Qt::Key_Return);
         typeText("26 ");
         picture(open, "lines-description");
         pressLetter(Qt::Key_A);

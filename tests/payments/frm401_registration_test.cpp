@@ -125,6 +125,11 @@ TEST_F(PaymentNoteRegistration, ServicesWithoutAPathOrAPriceListLeadNowhere) {
     for (const char *letters : {"PR", "AB"}) {
         SCOPED_TRACE(letters);
         station.messages.expectInformation(
+            QString(letters == QLatin1String("PR") ? "PROG. LABIO PALADAR Y HENDIDO"
+                                                   : "ABONO A CUENTA") +
+            " no se cobra en esta pantalla: para este servicio no se pide a nadie, y sin saber "
+            "quién paga no se agregan conceptos.");
+        station.messages.expectInformation(
             "No existe lista de precios para est tipo de servicios, presione cualquier tecla para "
             "continuar.");
         tabTo("ComboBox1", false);

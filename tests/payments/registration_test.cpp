@@ -270,7 +270,7 @@ TEST_F(Registering, CopiesComeOutAsTheLocalTableSays) {
         EXPECT_TRUE(desk.registers(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
         QStringList copies;
         for (const auto &record : desk.printing.records) {
-            EXPECT_EQ(record.title, "Recibo de Pago");
+            EXPECT_EQ(record.title, "Recibo de Pago 1-" + QString::number(draft.notaActual));
             EXPECT_EQ(record.printer, -1);
             EXPECT_FALSE(record.preview);
             for (const char *copy : {"ORIGINAL", "COPIA", "TERCERA"}) {

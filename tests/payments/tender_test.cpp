@@ -67,7 +67,8 @@ TEST(Tender, AgreesWithIntegersOverRandomNotes) {
                   one.subtotalCentavos() * 100);
         ASSERT_EQ(Money::rounded(draft.amounts.prestacion).tenThousandths(),
                   one.subtotalCentavos() * one.percent);
-        ASSERT_EQ(Money::rounded(draft.amounts.importeTotal).tenThousandths(), one.dueTenThousandths());
+        ASSERT_EQ(Money::rounded(draft.amounts.importeTotal).tenThousandths(),
+                  one.dueTenThousandths());
 
         Payment payment = openPayment(draft, static_cast<double>(one.rate) / 10000);
         payment.tarjetaCredito = static_cast<double>(one.card) / 100;
@@ -153,8 +154,8 @@ TEST(Tender, WholeBenefitSkipsTheDialogOnDossierServices) {
     NoteDraft draft = draftOf(350, 100, "N");
     for (const QString &row : serviceTypeRows(false)) {
         draft.service.tipoServ = tipoServOf(row);
-        const bool skips =
-            draft.service.tipoServ == "AE" || draft.service.tipoServ == "AP" || draft.service.tipoServ == "LE";
+        const bool skips = draft.service.tipoServ == "AE" || draft.service.tipoServ == "AP" ||
+                           draft.service.tipoServ == "LE";
         EXPECT_EQ(skipsDialog(draft), skips) << row.toStdString();
     }
     draft.service.tipoServ = "AP";

@@ -317,6 +317,10 @@ void DataGrid::keyPressEvent(QKeyEvent *event) {
     if (arrowKey(event) || (rowEdit_ && jumps)) {
         return;
     }
+    const bool types = !control && !event->text().isEmpty() && event->text().at(0).isPrint();
+    if (rowEdit_ && types && !mayEdit(currentIndex())) {
+        return;  // it would seek another row, and leave the one that is open
+    }
     QTableView::keyPressEvent(event);
 }
 
