@@ -59,9 +59,9 @@ void Screen::keyPressEvent(QKeyEvent *event) {
     }
     runGuarded([this] {
         if (!holdsTypedWork() ||
-            messages().confirm(QStringLiteral(
-                "¿Desea cerrar la ventana? Lo que se escribió no se ha guardado.")) ==
-                Answer::Yes) {
+            messages().confirmLoss(
+                QStringLiteral("¿Desea cerrar la ventana? Lo que se escribió no se ha guardado."),
+                {}) == Answer::Yes) {
             emit closeRequested();
         }
     });

@@ -211,11 +211,17 @@ void FRM401::activated() {
     readNumber();
 }
 
+/// A note with lines asks for itself, whatever closes it.
+bool FRM401::holdsTypedWork() const {
+    return !holdsLines() && Screen::holdsTypedWork();
+}
+
 void FRM401::closeEvent(QCloseEvent *event) {
-    const bool written = lines_.editing() || !lines_.lines().isEmpty();
-    if (written && messages().confirm(QStringLiteral(
-                       "La nota tiene conceptos que no se han registrado y se perderán. ¿Desea "
-                       "cerrarla?")) == Answer::No) {
+    if (holdsLines() &&
+        messages().confirmLoss(
+            QStringLiteral("La nota tiene conceptos que no se han registrado y se perderán. ¿Desea "
+                           "cerrarla?"),
+            {}) == Answer::No) {
         event->ignore();
     }
 }

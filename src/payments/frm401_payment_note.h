@@ -26,6 +26,7 @@ public:
 
 protected:
     void formCreate() override;
+    bool holdsTypedWork() const override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -54,6 +55,7 @@ private:
     NoteAmounts amounts() const;
 
     // Registering
+    bool holdsLines() const { return lines_.editing() || !lines_.lines().isEmpty(); }
     void registrarInformacion();
     bool takeNoteNumber();
     NoteDraft draft() const;

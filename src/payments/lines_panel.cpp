@@ -141,6 +141,7 @@ void LinesPanel::attach() {
     grid_->setSortable(false);
     grid_->installEventFilter(this);
     grid_->setDoubleClickHandler([this] { descripcionAdicional(); });
+    grid_->setSortable(false);  // the lines stand in the order in which they were typed
     grid_->setEscapeHandler([this] {
         if (editing_) {
             cancelarRegistro();
@@ -199,16 +200,16 @@ void LinesPanel::openPricesForAge(int edad) {
     showPriceList();
 }
 
-/// "Clave" of the grid chooses from the list in force.
+/// "Clave" of the grid chooses from the list in force, by key or by words of the description.
 void LinesPanel::showPriceList() {
     grid_->setLookup(
-        clave(),
-        {precios_,
-         clave(),
-         QStringLiteral("DESCR"),
-         {{clave(), QStringLiteral("Clave"), 7, CellMask::Integer},
-          {QStringLiteral("DESCR"), QStringLiteral("Descripción"), 62, CellMask::Text},
-          {QStringLiteral("MENUDEO"), QStringLiteral("Precio"), 14, CellMask::MoneyTight}}});
+        clave(), {precios_,
+                  clave(),
+                  QStringLiteral("DESCR"),
+                  {{clave(), QStringLiteral("Clave"), 7, CellMask::Integer},
+                   {QStringLiteral("DESCR"), QStringLiteral("Descripción"), 62, CellMask::Text},
+                   {QStringLiteral("MENUDEO"), QStringLiteral("Precio"), 14, CellMask::MoneyTight}},
+                  true});
 }
 
 // ---- The buttons
