@@ -52,6 +52,9 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
                          "select * from pagos_odontologia  where num_caja=:caja and "
                          "nota_vta=:nota"}),
       UltimaNota({"UltimaNota", "select max(nota_vta) from registrovtas where num_caja=:caja "}),
+      CajaReservada({"CajaReservada",
+                     "select num_caja from uso_caja where num_caja=:caja and "
+                     "conexion=current_connection and nota_vta is null"}),
       Qry405({"Qry405",
               "select max(nota_vta),min(nota_vta) from registrovtas  where fecha=:fecha   and  "
               "num_caja =:caja and capto=:usuario"}),
@@ -131,6 +134,8 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
       registraiva("registraiva", "KDREGISTRAIVA", "caja, nota"),
       BorrarDetalleVtas("BorrarDetalleVtas", "KDBORRARDETALLEVTAS", "num_caja, nota_vta"),
       SP550("SP550", "SP550", "num_caja, nota_vta"),
+      ReservaCaja("ReservaCaja", "KDRESERVACAJA", "num_caja, ultima, siguiente"),
+      LiberaCaja("LiberaCaja", "KDLIBERACAJA", "num_caja"),
       CompletaCorteBancario("CompletaCorteBancario", "KDCOMPLETACORTEBANCARIO",
                             "usr, caja, fecha") {
     bindAll({&DatosCaja,
@@ -153,6 +158,7 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
              &VtasContado,
              &PagosOdontologia1,
              &UltimaNota,
+             &CajaReservada,
              &Qry405,
              &Qry405_2,
              &Qry405_3,
@@ -170,7 +176,7 @@ DMIngresosCaja::DMIngresosCaja(DMConexion &connections)
              &CopiaBancoPrograma, &BorraBancoProgramas});
     bindAll({&registra_pago_odontologia_p, &sp_registrametodopago, &spinsdetalle,
              &registra_historicodontologia_p, &registraiva, &BorrarDetalleVtas, &SP550,
-             &CompletaCorteBancario});
+             &ReservaCaja, &LiberaCaja, &CompletaCorteBancario});
 
     // The rows of a note follow each other: its head is read once.
     Qry405_5.addCalculated(QStringLiteral("CLNombre"), [this](const NamedQuery::RowReader &row) {

@@ -45,6 +45,7 @@ public:
     NamedQuery VtasContado;
     NamedQuery PagosOdontologia1;
     NamedQuery UltimaNota;
+    NamedQuery CajaReservada;  ///< a row where this station holds the desk for its repair
 
     // Cash cut
     NamedQuery Qry405;
@@ -69,6 +70,8 @@ public:
     Procedure registraiva;
     Procedure BorrarDetalleVtas;
     Procedure SP550;
+    Procedure ReservaCaja;
+    Procedure LiberaCaja;
     Procedure CompletaCorteBancario;
 
 private:

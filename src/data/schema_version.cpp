@@ -8,7 +8,7 @@ namespace {
 
 // What `scripts/create-databases` makes: the number of the last step, 1 where there is none.
 constexpr int kLocalVersion = 1;
-constexpr int kClinicVersion = 1;
+constexpr int kClinicVersion = 2;
 constexpr int kFinanceVersion = 1;
 
 int numberOf(Connection &connection, const char *text) {

@@ -1,5 +1,6 @@
 #include "payments/registration.h"
 
+#include "payments/failed_note.h"
 #include "payments/receipt_printer.h"
 #include "people/clinical_history.h"
 #include "toolkit/core/log.h"
@@ -28,10 +29,10 @@ RegistrationOutcome Registration::registrar(NoteDraft draft, const Payment &paym
         logSwallowed(
             QStringLiteral("nota %1-%2").arg(context_.session.NumCaja).arg(draft.notaActual),
             failure);
-        context_.messages.warning(
-            QStringLiteral("Ocurrió un error al tratar de registrar la información. Verifique "
-                           "Recibos Incompletos."),
-            title);
+        const QString text = QStringLiteral(
+            "Ocurrió un error al tratar de registrar la información. Verifique Recibos "
+            "Incompletos.");
+        context_.messages.warning(text + tellFailedNote(context_, draft.notaActual), title);
     }
     return outcome;
 }

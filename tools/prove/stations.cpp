@@ -30,8 +30,12 @@ public:
         : orders_{own_.root(), own_.root() + "/ledger.txt", number, 0, notes, seed} {
         FirebirdConnection local(QStringLiteral("FBLocal"), {});
         local.setDatabase(own_.database("BD_LOCAL.GDB"));
-        test::run(local, "update firebird set ruta = :host || replace(ruta, :own, :shared)",
-                  {{"host", host}, {"own", own_.root()}, {"shared", shared.root()}});
+        for (const auto &[base, file] : {std::pair{"Odontologia", "BD_ODONTOLOGIA.GDB"},
+                                         std::pair{"Finanzas", "BD_FINANZAS.GDB"}}) {
+            test::run(local, "update firebird set ruta = :ruta where base = :base",
+                      {{"ruta", host + shared.database(QString::fromLatin1(file))},
+                       {"base", QString::fromLatin1(base)}});
+        }
         // Receipts aren't what is proved.
         test::run(local, "delete from recibos");
     }

@@ -23,6 +23,17 @@ create table datoscaja (
     constraint pk_datoscaja primary key (num_caja)
 );
 
+-- Which station works on the last note of a desk: it registers nota_vta, or repairs the desk where
+-- that is NULL. A hold ends when the counter has passed its note, when it is given back, with the
+-- attachment (conexion), and after five minutes.
+create table uso_caja (
+    num_caja integer not null,
+    conexion bigint,
+    nota_vta integer,
+    momento timestamp,
+    constraint pk_uso_caja primary key (num_caja)
+);
+
 -- Heads of notes. status: 'GE' generated, 'CA' cancelled. recibo is num_caja-nota_vta.
 create table registrovtas (
     num_caja integer not null,

@@ -2,11 +2,41 @@
 -- itself; none of them moves the note counter of the desk, which the station does last.
 
 create or alter exception ex_concepto 'El concepto no existe en la lista de precios.';
+create or alter exception ex_caja_en_uso 'Otra estación está usando esta caja.';
 
 set term ^ ;
 
+-- Takes a desk for the caller's attachment, for a note or, with NULL, for a repair; 0 where another
+-- station holds it. Who takes it waits for who is taking it, and only one of them gets it.
+create or alter procedure kdtomacaja (num_caja integer, nota_vta integer)
+returns (tomada smallint)
+as
+begin
+    tomada = 1;
+    -- The attachments come last: to list them costs more than all else here.
+    update uso_caja u
+       set u.conexion = current_connection,
+           u.nota_vta = :nota_vta,
+           u.momento = current_timestamp
+     where u.num_caja = :num_caja
+       and (u.conexion is null
+            or u.conexion = current_connection
+            or u.nota_vta < (select d.nota_vta from datoscaja d where d.num_caja = u.num_caja)
+            or u.momento < dateadd(-5 minute to current_timestamp)
+            or not exists (select 1
+                             from mon$attachments m
+                            where m.mon$attachment_id = u.conexion
+                              and m.mon$timestamp <= u.momento));
+    if (row_count = 0) then
+        insert into uso_caja (num_caja, conexion, nota_vta, momento)
+        values (:num_caja, current_connection, :nota_vta, current_timestamp);
+
+    when gdscode deadlock, gdscode unique_key_violation do
+        tomada = 0;
+end^
+
 -- Head of a note with its payment. A note that exists already fails on its key: two patients must
--- not end up in one note.
+-- not end up in one note. From here on until the counter moves the desk is the caller's.
 create or alter procedure kdregistra_pago_odo_p (
     p_numcaja integer,
     p_notavta integer,
@@ -45,7 +75,12 @@ as
     declare bancodll integer;
     declare empleado varchar(100);
     declare dolares_en_pesos double precision;
+    declare tomada smallint;
 begin
+    execute procedure kdtomacaja (p_numcaja, p_notavta) returning_values tomada;
+    if (tomada = 0) then
+        exception ex_caja_en_uso;
+
     select d.campus, d.sistemaid, d.paqueteid, d.bancomn, d.bancodll
       from datoscaja d
      where d.num_caja = :p_numcaja

@@ -4,6 +4,40 @@
 
 set term ^ ;
 
+-- Gives back a desk that the caller's attachment holds.
+create or alter procedure kdliberacaja (num_caja integer)
+as
+begin
+    update uso_caja u
+       set u.conexion = null
+     where u.num_caja = :num_caja
+       and u.conexion = current_connection;
+end^
+
+-- Holds a desk for its repair, if it still is as the caller saw it: the counter unmoved, no note
+-- above the last one. Only a repair, told by the counter, may have taken that last one away. Who
+-- holds the desk finds its row in uso_caja.
+create or alter procedure kdreservacaja (num_caja integer, ultima integer, siguiente integer)
+as
+    declare tomada smallint;
+    declare maxima integer;
+    declare contador integer;
+begin
+    execute procedure kdtomacaja (num_caja, null) returning_values tomada;
+    if (tomada = 1) then
+    begin
+        select coalesce(max(r.nota_vta), 0)
+          from registrovtas r
+         where r.num_caja = :num_caja
+          into :maxima;
+        select d.nota_vta from datoscaja d where d.num_caja = :num_caja into :contador;
+        if (contador is distinct from siguiente
+            or maxima > ultima
+            or (maxima < ultima and siguiente <> ultima)) then
+            execute procedure kdliberacaja (num_caja);
+    end
+end^
+
 -- The lines of a note and their place in the dossier's history.
 create or alter procedure kdborrardetallevtas (num_caja integer, nota_vta integer)
 as
