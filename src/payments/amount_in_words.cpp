@@ -77,8 +77,9 @@ QString numberInWords(qint64 number) {
 
 QString ImporteEnLetra(qint64 importe, WordsOf words) {
     const qint64 whole = importe / 10000;
-    // The cents, scaled so that the same routine reads them as a whole number.
-    const qint64 cents = (importe - whole * 10000) * 100;
+    // The cents, scaled so that the same routine reads them as a whole number; what is less than a
+    // centavo is cut first, or it would make one centavo a plural.
+    const qint64 cents = importe % 10000 / 100 * 10000;
     const bool singular = importe <= 10000;
     QString number = numberInWords(whole);
     if (words == WordsOf::Centavos) {

@@ -67,6 +67,8 @@ TEST(ImporteEnLetra, ReadsAsReceiptsAlwaysRead) {
     EXPECT_EQ(pesos(1e9), "***  MILLONES PESOS  M.N. ***");
     EXPECT_EQ(pesos(1e12 + 1e6), "***  UN MILLON PESOS  M.N. ***");
     EXPECT_EQ(pesos(16.4599), "***  DIESISEIS PESOS CON  CUARENTA Y CINCO CENTAVOS *** M.N. ***");
+    EXPECT_EQ(pesos(16.0199), "***  DIESISEIS PESOS CON  UN CENTAVO *** M.N. ***");
+    EXPECT_EQ(pesos(16.0099), "***  DIESISEIS PESOS  M.N. ***");
     EXPECT_EQ(ImporteEnLetra(10000, WordsOf::Dollars), "***  UN DOLAR ");
     EXPECT_EQ(ImporteEnLetra(21500, WordsOf::Dollars), "***  DOS DLLS CON  QUINCE CENTAVOS ***");
 }
