@@ -116,6 +116,10 @@ bool FRM405::isAdministrator() const {
 
 void FRM405::elegirCaja() {
     CajaCorte_ = static_cast<qint16>(context().caja.DatosCaja.integer(QStringLiteral("num_caja")));
+    // What was found is the desk's before.
+    UsuarioCorte_ = QString();
+    notaMin_ = notaMax_ = 0;
+    Generar_->setEnabled(false);
     Turno_->setIndex(-1);
     Turno_->setEnabled(true);
     moveFocus(Turno_);

@@ -365,10 +365,35 @@ TEST_F(FRM405Test, AnAdministratorWithoutACashierIsToldAtTheButton) {
     typeText("CAJA ESP");
     press(Qt::Key_Return);
     EXPECT_EQ(child<Choice>(screen.get(), "Turno")->currentIndex(), -1);
+    EXPECT_FALSE(generar()->isEnabled()) << "what was found is the desk's before";
     child<DateField>(screen.get(), "FechaCorte")->setFocus();
     settle();
     press(Qt::Key_Tab);
     EXPECT_EQ(station.messages.shown().size(), 2);
+}
+
+TEST_F(FRM405Test, TheDesksAreThoseOfTheCampusThatTheUserHasNow) {
+    open("admin");
+    run(station.clinic(),
+        "insert into datoscaja (num_caja, nombre, campus) values (77, 'CAJA NUEVA', '3')");
+    run(station.clinic(), "update controlusuarios set campus='3' where usuario='admin'");
+    screen->open();
+    EXPECT_TRUE(station.caja.DatosCaja.locate({{"num_caja", 77}}));
+}
+
+TEST_F(FRM405Test, TheBankCutNeverAddsDollarsToPesos) {
+    store(station.clinic(), of(1, "cajero1"),
+          {{.nota = 1, .importe = 100, .pesos = 100}, {.nota = 2, .importe = 95, .dolares = 5}});
+    station.options.CortesBancarios = true;
+    for (const QVariant &bank : {QVariant(), QVariant(1)}) {
+        run(station.clinic(), "update formapago set bancomn=:b, bancodll=:b", {{"b", bank}});
+        open("cajero1");
+        cutByEnter();
+        const QString text = report(station.printing.records.size() - 1);
+        EXPECT_TRUE(text.contains("Importe Total\n$100.00")) << text.toStdString();
+        EXPECT_TRUE(text.contains("Importe Total\n$5.00")) << text.toStdString();
+        EXPECT_EQ(text.count("BANCO DEL LITORAL 4410 INGRESOS"), bank.isValid() ? 2 : 0);
+    }
 }
 
 TEST_F(FRM405Test, ADeskThatBanksItsCardsSaysSoOnceItsPaymentScreenWasOpen) {

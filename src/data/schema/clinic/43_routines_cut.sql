@@ -87,6 +87,22 @@ begin
      group by p.bancoid, b.subsubctaid, b.nomenclatura, b.descripcion, p.ftefto, p.fondo, p.orden,
               p.concepto, c.prog_pol
      order by p.bancoid, p.ftefto, p.fondo, p.orden;
+
+    -- Dollars are no pesos: where both go to one account, or to none, they get a group of their own
+    -- under the number's negative.
+    update cortebancario cb
+       set cb.bancoid = -maxvalue(cb.bancoid, 1)
+     where cb.num_caja = :caja
+       and cb.fechacorte = :fecha
+       and cb.usuario = :usr
+       and cb.concepto = 'DOLARES'
+       and exists (select 1
+                     from cortebancario o
+                    where o.num_caja = cb.num_caja
+                      and o.fechacorte = cb.fechacorte
+                      and o.usuario = cb.usuario
+                      and o.bancoid = cb.bancoid
+                      and o.concepto <> cb.concepto);
 end^
 
 set term ; ^
