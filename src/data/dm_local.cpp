@@ -11,9 +11,15 @@ DMLocal::DMLocal(DMConexion &connections)
       FBDetalleVtas({"FBDetalleVtas", "select * from detallevtas", "detallevtas",
                      "tipo_prod,cve_prod,codigo"}),
       Unidades({"Unidades", "select * from unidades where unidad=:unidad"}),
-      LimpiarTabla("LimpiarTabla", "Delete from detallevtas") {
-    bindAll({&Firebird, &Informix, &Recibos, &FBDetalleVtas, &Unidades});
-    bindAll({&LimpiarTabla});
+      LimpiarTabla("LimpiarTabla", "Delete from detallevtas"),
+      ReciboPendiente({"ReciboPendiente", "select num_caja, nota_vta from recibopendiente"}),
+      MarcaRecibo("MarcaRecibo",
+                  "update or insert into recibopendiente (llave, num_caja, nota_vta) values (1, "
+                  ":caja, :nota) matching (llave)"),
+      QuitaMarcaRecibo("QuitaMarcaRecibo",
+                       "delete from recibopendiente where num_caja=:caja and nota_vta=:nota") {
+    bindAll({&Firebird, &Informix, &Recibos, &FBDetalleVtas, &Unidades, &ReciboPendiente});
+    bindAll({&LimpiarTabla, &MarcaRecibo, &QuitaMarcaRecibo});
 }
 
 }  // namespace kaldo

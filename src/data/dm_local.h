@@ -19,6 +19,11 @@ public:
 
     /// Empties the working table of the note.
     Command LimpiarTabla;
+
+    // The note whose receipts aren't finished
+    NamedQuery ReciboPendiente;
+    Command MarcaRecibo;
+    Command QuitaMarcaRecibo;
 };
 
 }  // namespace kaldo

@@ -3,6 +3,7 @@
 #include "data/query_rows.h"
 #include "payments/receipt_copies.h"
 #include "payments/receipt_layout.h"
+#include "payments/receipt_mark.h"
 
 namespace kaldo {
 
@@ -58,6 +59,9 @@ void ReceiptPrinter::Ticket(const NoteDraft &draft, const Payment &payment,
                             const ReceiptExtras &extras) {
     const RegisteredNote note = registeredNote(context_, draft.notaActual);
     content_ = writer_.Ticket(draft, payment, note, extras, receiptOptions(context_));
+    if (draft.mode == NoteMode::Registrar) {
+        markReceipts(context_, draft.notaActual);
+    }
 }
 
 void ReceiptPrinter::Recibos(const NoteDraft &draft) {
@@ -80,6 +84,7 @@ void ReceiptPrinter::Recibos(const NoteDraft &draft) {
             context_.printing.print(document, job);
         }
     }
+    unmarkReceipts(context_, draft.notaActual);
 }
 
 }  // namespace kaldo

@@ -11,7 +11,8 @@ class ReceiptPrinter {
 public:
     explicit ReceiptPrinter(Context &context) : context_(context) {}
 
-    /// Fills the receipt; reads the note back from `registrovtas`.
+    /// Fills the receipt; reads the note back from `registrovtas`. From here on the station knows
+    /// that the copies of a new note are due.
     void Ticket(const NoteDraft &draft, const Payment &payment, const ReceiptExtras &extras);
 
     /// Prints the copies that the local table `recibos` lists, on the default printer; a consulted

@@ -1,6 +1,7 @@
 #include "shell/frm_acceso_login.h"
 
 #include "data/schema_version.h"
+#include "payments/receipt_mark.h"
 #include "shell/frm_inicio_firebird_wizard.h"
 #include "shell/frm_pass_password.h"
 #include "shell/update_check.h"
@@ -194,6 +195,7 @@ void FRMAcceso::BitBtn1Click() {
         Edit2_->clear();
         main_.startSession();
         accept();
+        main_.whenRunning([this] { tellUnfinishedReceipts(context()); });
     }
 }
 

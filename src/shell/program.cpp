@@ -34,6 +34,10 @@ report::PrintingHost printingHost(FRM000 *window, Messages *messages) {
     return host;
 }
 
+QString receiptFolder(const Installation &installation) {
+    return installation.map(QStringLiteral("C:\\KALDO\\Recibos"));
+}
+
 }  // namespace
 
 /// In the order of their lives: what stands below is destroyed first, the connections outlive all
@@ -54,8 +58,7 @@ struct Program::Parts {
           finanzas(conexion),
           escolares(conexion),
           window(std::make_unique<FRM000>(context, settings.tick)),
-          systemPrinting(installation.map(QStringLiteral("C:\\KALDO\\Recibos")),
-                         printingHost(window.get(), &messages)),
+          systemPrinting(receiptFolder(installation), printingHost(window.get(), &messages)),
           context{installation, clock,
                   ini,          session,
                   options,      messages,
@@ -183,6 +186,7 @@ bool Program::start() {
         qCWarning(logStart).noquote()
             << "Base de datos fuera de la carpeta de esta instalación:" << base;
     }
+    report::removeUnfinishedPdfs(receiptFolder(parts_->installation));
     createControlPanel();
     parts_->window->showMaximized();
     createResidents();

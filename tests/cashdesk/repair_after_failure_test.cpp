@@ -35,6 +35,8 @@ TEST(RepairAfterFailure, TheNoteCanBeEnteredAgain) {
     ASSERT_TRUE(desk.registers(first, paid(first)));
     desk.conexion.setSeam(nullptr);
     const QString whole = records.ofNote(1, first.notaActual, folio);
+    // The note is whole by then, and its failure isn't one.
+    none.begun.removeOne(QStringLiteral("QuitaMarcaRecibo"));
     for (int call = 1; call <= none.begun.size(); ++call) {
         SCOPED_TRACE(none.begun[call - 1].toStdString());
         const NoteDraft draft = admission();

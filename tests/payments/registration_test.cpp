@@ -1,6 +1,7 @@
 #include "payments/registration.h"
 
 #include "payments/receipt_layout.h"
+#include "payments/receipt_mark.h"
 #include "tests/payments/desk.h"
 #include "tests/support/seams.h"
 #include "toolkit/report/paint.h"
@@ -235,6 +236,11 @@ TEST_F(Registering, TwoSessionsOnOneDeskMeetTheNumberOfTheFirst) {
     ASSERT_EQ(first.notaActual, second.notaActual);
     ASSERT_TRUE(desk.registers(first, paidWith(first, 0, 0, first.amounts.importeTotal)));
     EXPECT_TRUE(other.fails(second, paidWith(second, 0, 0, second.amounts.importeTotal)));
+    other.session.Usuario = "cajero2";
+    other.messages.expectWarning(
+        QString(test::kFailed) +
+        "\n\nOtra estación usa la caja 1: la nota 1 es del usuario cajero1.");
+    EXPECT_FALSE(other.registrar(second, paidWith(second, 0, 0, second.amounts.importeTotal)));
     EXPECT_EQ(rows("detallevtas", "cve_prod, cant", 1), "1|1");
     EXPECT_EQ(desk.nextNote(), 2);
     EXPECT_TRUE(other.printing.records.isEmpty());
@@ -310,6 +316,24 @@ TEST_F(Registering, APrinterThatFailsLeavesTheNoteWrittenAndCounted) {
     EXPECT_EQ(rows("registrovtas", "status, fecha", 1), "GE|" + today());
     EXPECT_EQ(desk.nextNote(), 2);
     EXPECT_EQ(desk.frame.figuresRefreshed, 0);
+}
+
+TEST_F(Registering, ReceiptsThatWereNeverFinishedAreToldOnce) {
+    const NoteDraft draft = desk.note("PG - PUBLICO GENERAL", 6, {1});
+    desk.printing.onPrint = [] { throw report::PrintError("sin papel"); };
+    EXPECT_TRUE(desk.fails(draft, paidWith(draft, 0, 0, draft.amounts.importeTotal)));
+    desk.messages.expectWarning("Los recibos de la nota 1-1 no se terminaron de imprimir. *");
+    tellUnfinishedReceipts(desk.context);
+    tellUnfinishedReceipts(desk.context);
+
+    // A note that its counter doesn't count is the repair's.
+    const NoteDraft half = desk.note("PG - PUBLICO GENERAL", 6, {1});
+    desk.receipt.Ticket(half, paidWith(half, 0, 0, half.amounts.importeTotal), {});
+    tellUnfinishedReceipts(desk.context);
+
+    desk.printing.onPrint = {};
+    EXPECT_TRUE(desk.registers(half, paidWith(half, 0, 0, half.amounts.importeTotal)));
+    tellUnfinishedReceipts(desk.context);
 }
 
 TEST_F(Registering, APainterThatCannotBeginEndsInTheSameBox) {

@@ -46,6 +46,15 @@ TEST(Login, CashierFillsTheSession) {
         << "a label of the cash cut depends on it";
 }
 
+TEST(Login, TellsOfReceiptsThatWereNeverFinished) {
+    ShellStation station;
+    Context &context = station.program->context();
+    context.local.MarcaRecibo.execute({{"caja", 1}, {"nota", 1}});
+    context.caja.UDatosCaja.execute({{"caja", 1}, {"nota", 2}});
+    station.messages.expectWarning("Los recibos de la nota 1-1 no se terminaron de imprimir. *");
+    station.logIn("cajero1", "caja1");
+}
+
 TEST(Login, OtherProfilesKeepTheCashiersShift) {
     ShellStation station;
     station.logIn("cajero1", "caja1");

@@ -243,5 +243,13 @@ TEST_F(ReportFiles, StationWithoutPrinterWritesFilesAndSaysWhere) {
     EXPECT_THROW(nowhere.print(sample(1), {}), PrintError);
     EXPECT_THROW(printing.print(Document(), {}), PrintError);
     EXPECT_EQ(QDir(path("pdf/recibos")).entryList(QDir::Files).size(), 3) << "no empty file stays";
+
+    // What a killed program leaves: of this one and of those before.
+    for (const char *left : {"sin-terminar-1.pdf.xKq", "Recibo_20260101-090000_01.pdf"}) {
+        QFile half(path("pdf/recibos/") + QString::fromLatin1(left));
+        ASSERT_TRUE(half.open(QIODevice::WriteOnly));
+    }
+    removeUnfinishedPdfs(path("pdf/recibos"));
+    EXPECT_EQ(QDir(path("pdf/recibos")).entryList(QDir::Files, QDir::Name), written);
     EXPECT_EQ(told.size(), 3);
 }

@@ -147,12 +147,12 @@ private:
                        1, oneIn(2) ? QList<int>{1} : QList<int>{1, 2, 3});
         const QString patient =
             QStringLiteral("P%1L%2N%3").arg(orders_.number).arg(orders_.life).arg(++patients_);
-        draft.paterno = patient;
+        draft.payer.paterno = patient;
         draft.materno.clear();
         draft.nombre.clear();
         arm(16);
         const bool told =
-            registration_.registrar(draft, test::paidWith(draft, 0, 0, draft.importeTotal));
+            registration_.registrar(draft, test::paidWith(draft, 0, 0, draft.amounts.importeTotal));
         disarm();
         if (told) {
             ledger_.write(kNoteLine, QStringLiteral("%1 %2 %3 %4")

@@ -7,10 +7,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QUuid>
 
 #include <memory>
 #include <utility>
@@ -31,15 +33,17 @@ QString fileName(const QString &title) {
     return result.isEmpty() ? QStringLiteral("Documento") : result;
 }
 
-/// Makes an empty file of a name that nobody had, so that two programs never share one.
-QString reserveFile(const QDir &folder, const QString &title) {
+const QString kUnfinished = QStringLiteral("sin-terminar-");
+
+/// Gives a complete file a name that nobody had; the path.
+QString nameFile(const QDir &folder, const QString &complete, const QString &title) {
     const QString stem = fileName(title) + QLatin1Char('_') +
                          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     for (int counter = 1; counter <= 9999; ++counter) {
         const QString path = folder.filePath(
             QStringLiteral("%1_%2.pdf").arg(stem).arg(counter, 2, 10, QLatin1Char('0')));
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        QFile file(complete);
+        if (file.rename(path))  // never over another one
             return path;
         if (!QFile::exists(path))
             throw PrintError(QStringLiteral("No se pudo escribir el archivo \"%1\": %2")
@@ -135,11 +139,14 @@ QString SystemPrinting::printToFolder(const Document &document, const QString &t
     if (!folder.mkpath(QStringLiteral(".")))
         throw PrintError(QStringLiteral("No se pudo crear la carpeta \"%1\".")
                              .arg(QDir::toNativeSeparators(pdfFolder_)));
-    const QString path = reserveFile(folder, title);
+    const QString unfinished = folder.filePath(
+        kUnfinished + QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".pdf"));
+    QString path;
     try {
-        writePdf(document, path, title);
+        writePdf(document, unfinished, title);
+        path = nameFile(folder, unfinished, title);
     } catch (...) {
-        QFile::remove(path);
+        QFile::remove(unfinished);
         throw;
     }
     return QStringLiteral("No hay impresora; el documento se guardó en %1")
@@ -209,6 +216,16 @@ int SystemPrinting::choosePrinter(QWidget *parent, int current) {
         return current;
     const auto chosen = static_cast<int>(names.indexOf(printer->printerName()));
     return chosen < 0 ? current : chosen;
+}
+
+void removeUnfinishedPdfs(const QString &pdfFolder) {
+    const QDir folder(pdfFolder);
+    for (const QFileInfo &file : folder.entryInfoList(
+             {kUnfinished + QLatin1Char('*'), QStringLiteral("*.pdf")}, QDir::Files)) {
+        // Older programs gave an empty file its name first.
+        if (file.fileName().startsWith(kUnfinished) || file.size() == 0)
+            QFile::remove(file.filePath());
+    }
 }
 
 }  // namespace kaldo::report

@@ -56,8 +56,9 @@ struct PrintingHost {
     std::function<bool(QWidget *parent, QPrinter &printer, int pages)> askPrinter;
 };
 
-/// Prints on the station's printers. A station without any gets PDF files, named by title and
-/// moment, in `pdfFolder` (made when needed); none is ever written over.
+/// Prints on the station's printers. A station without any gets PDF files in `pdfFolder` (made when
+/// needed), which get their names, by title and moment, when they are complete; none is ever
+/// written over.
 class SystemPrinting : public Printing {
 public:
     explicit SystemPrinting(const QString &pdfFolder, PrintingHost host = {});
@@ -77,5 +78,9 @@ private:
     QString pdfFolder_;
     PrintingHost host_;
 };
+
+/// Removes what a program that was killed has left of its PDF files. To be called while no other
+/// one writes into the folder.
+void removeUnfinishedPdfs(const QString &pdfFolder);
 
 }  // namespace kaldo::report

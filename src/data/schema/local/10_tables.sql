@@ -29,6 +29,15 @@ create table recibos (
     constraint pk_recibos primary key (recibo)
 );
 
+-- The note whose receipts are being printed, llave 1 alone. A row that is found at a login names a
+-- patient who got no paper.
+create table recibopendiente (
+    llave smallint not null,
+    num_caja integer not null,
+    nota_vta integer not null,
+    constraint pk_recibopendiente primary key (llave)
+);
+
 -- Lines of the note being written. No key: a line may still lack its cve_prod.
 -- descripcion holds a price text and the text of an advance or a payment behind it.
 create table detallevtas (
