@@ -21,14 +21,14 @@ inline Strikes atCall(int wanted) {
 }
 /// The n-th execution of this query, command or routine from now on; 0 for each of them.
 inline Strikes atName(const QString &name, int nth = 0) {
-    return [=](const Execution &execution, int) mutable {
-        return execution.name == name && (nth == 0 || --nth == 0);
+    return [=, left = nth](const Execution &execution, int) mutable {
+        return execution.name == name && (nth == 0 || --left == 0);
     };
 }
 /// The n-th write from now on; 0 for each of them.
 inline Strikes atWrite(int nth = 0) {
-    return [nth](const Execution &execution, int) mutable {
-        return execution.writes && (nth == 0 || --nth == 0);
+    return [nth, left = nth](const Execution &execution, int) mutable {
+        return execution.writes && (nth == 0 || --left == 0);
     };
 }
 
