@@ -148,11 +148,12 @@ private:
         const QString patient =
             QStringLiteral("P%1L%2N%3").arg(orders_.number).arg(orders_.life).arg(++patients_);
         draft.payer.paterno = patient;
-        draft.materno.clear();
-        draft.nombre.clear();
+        draft.payer.materno.clear();
+        draft.payer.nombre.clear();
         arm(16);
         const bool told =
-            registration_.registrar(draft, test::paidWith(draft, 0, 0, draft.amounts.importeTotal));
+            registration_.registrar(draft, test::paidWith(draft, 0, 0, draft.amounts.importeTotal))
+                .registered;
         disarm();
         if (told) {
             ledger_.write(kNoteLine, QStringLiteral("%1 %2 %3 %4")
