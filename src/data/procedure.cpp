@@ -1,5 +1,6 @@
 #include "data/procedure.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace kaldo {
@@ -16,7 +17,7 @@ Procedure::Procedure(const char *name, const char *routine, const QStringList &p
     }
     statement_ = {QString::fromLatin1(name), text};
     for (const QString &parameter : std::as_const(parameters_)) {
-        values_.append({parameter, QVariant()});
+        nothing_.append({parameter, QVariant()});
     }
 }
 
@@ -29,33 +30,25 @@ bool sameName(const QString &one, const QString &other) {
 
 }  // namespace
 
-Procedure &Procedure::set(const QString &parameter, const QVariant &value) {
-    for (auto &[name, current] : values_) {
-        if (sameName(name, parameter)) {
-            current = value;
-            return *this;
-        }
-    }
-    throw std::logic_error(
-        (name() + QLatin1String(" has no parameter ") + parameter).toStdString());
-}
-
-Procedure &Procedure::set(const Parameters &values) {
+void Procedure::execute(const Parameters &values) {
+    Parameters all = nothing_;
     // Given in the routine's order, as they mostly are, a hundred values need no search.
     qsizetype expected = 0;
     for (const auto &[name, value] : values) {
-        if (expected < values_.size() && sameName(values_.at(expected).first, name)) {
-            values_[expected].second = value;
-        } else {
-            set(name, value);
+        auto given = all.begin() + expected;
+        if (expected >= all.size() || !sameName(given->first, name)) {
+            given = std::find_if(all.begin(), all.end(), [&name = name](const auto &candidate) {
+                return sameName(candidate.first, name);
+            });
         }
+        if (given == all.end()) {
+            throw std::logic_error(
+                (this->name() + QLatin1String(" has no parameter ") + name).toStdString());
+        }
+        given->second = value;
         ++expected;
     }
-    return *this;
-}
-
-void Procedure::execute() {
-    connection_->execute(statement_, values_);
+    connection_->execute(statement_, all);
 }
 
 }  // namespace kaldo

@@ -6,8 +6,7 @@
 
 namespace kaldo {
 
-/// A stored routine that is executed for what it writes. Its parameters keep their values between
-/// executions, as the screens that set only some of them expect.
+/// A stored routine that is executed for what it writes.
 class Procedure {
 public:
     /// `parameters`: names in the order of the routine, parted by commas and blanks.
@@ -19,21 +18,16 @@ public:
     void bindTo(Connection &connection) { connection_ = &connection; }
     Connection &connection() const { return *connection_; }
 
+    /// Executes with these values and no others: what isn't given is NULL. Committed on return.
     /// Throws std::logic_error for a name that the routine doesn't have.
-    Procedure &set(const QString &parameter, const QVariant &value);
-    Procedure &set(const Parameters &values);
-
-    /// Executes with the values as they stand; what was never set is NULL. Committed on return.
-    void execute();
-    /// Sets these and executes.
-    void execute(const Parameters &values) { set(values).execute(); }
+    void execute(const Parameters &values);
 
     const Statement &statement() const { return statement_; }
 
 private:
     Statement statement_;
     QStringList parameters_;
-    Parameters values_;
+    Parameters nothing_;  ///< all of them, NULL
     Connection *connection_ = nullptr;
 };
 

@@ -121,19 +121,15 @@ protected:
     void registerNote(TestStation &by, int nota, const QString &tipoServ) {
         DMIngresosCaja &caja = by.caja;
         const QString expediente = tipoServ == "ADMISION" ? QString() : QString("99999/24");
+        Parameters payment{
+            {"p_numcaja", 1},       {"p_notavta", nota},      {"p_usuario", "cajero1"},
+            {"p_importe", 150.0},   {"p_tiposerv", tipoServ}, {"p_paciente", "OLIVAS MEZA ANA"},
+            {"p_tipocambio", 19.5}, {"p_pesos", 150.0},       {"p_expediente", expediente}};
         for (const QString amount :
              {"p_dolares", "p_cheque", "p_credito", "p_cambio", "p_imprestacion", "p_impdscto"}) {
-            caja.registra_pago_odontologia_p.set(amount, 0.0);
+            payment.append({amount, 0.0});
         }
-        caja.registra_pago_odontologia_p.execute({{"p_numcaja", 1},
-                                                  {"p_notavta", nota},
-                                                  {"p_usuario", "cajero1"},
-                                                  {"p_importe", 150.0},
-                                                  {"p_tiposerv", tipoServ},
-                                                  {"p_paciente", "OLIVAS MEZA ANA"},
-                                                  {"p_tipocambio", 19.5},
-                                                  {"p_pesos", 150.0},
-                                                  {"p_expediente", expediente}});
+        caja.registra_pago_odontologia_p.execute(payment);
         caja.sp_registrametodopago.execute({{"caja", 1}, {"nota", nota}, {"cve", "01"}});
         caja.spinsdetalle.execute({{"p_caja", 1},
                                    {"p_notavta", nota},

@@ -32,11 +32,11 @@ protected:
     }
 
     void repair(Procedure &procedure, int nota, const QString &ciudad = {}) {
-        procedure.set({{"num_caja", 1}, {"nota_vta", nota}});
+        Parameters values{{"num_caja", 1}, {"nota_vta", nota}};
         if (!ciudad.isEmpty()) {
-            procedure.set("ciudad", ciudad);
+            values.append({"ciudad", ciudad});
         }
-        procedure.execute();
+        procedure.execute(values);
     }
 
     TestInstallation files;
@@ -53,6 +53,7 @@ TEST_F(RoutinesTest, AHistoryStandsColumnByColumn) {
     const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789!#$%&/";
     Procedure &history = odonto.registra_antecedentes_p;
     QStringList sent;
+    Parameters values;
     for (const QString &name : history.parameters()) {
         const int at = int(sent.size());
         const int width = valueOf(clinic(),
@@ -64,12 +65,16 @@ TEST_F(RoutinesTest, AHistoryStandsColumnByColumn) {
         const QVariant value = width == 0   ? QVariant(9000 + at)
                                : width == 1 ? QVariant(QString(letters[at % letters.size()]))
                                             : QVariant(QStringLiteral("T%1").arg(at));
-        history.set(name, value);
+        values.append({name, value});
         sent += value.toString();
     }
     ASSERT_EQ(sent.size(), 97);
-    history.execute();
+    history.execute(values);
     EXPECT_EQ(rows("select * from antecedentes where folio = 9000"), sent.join(u'|'));
+    history.execute({{"folio", 9999}});
+    EXPECT_EQ(rows("select heredo_fam, aparatodigestivo from antecedentes where folio = 9999"),
+              "NULL|NULL")
+        << "nothing is left of the call before";
 }
 
 TEST_F(RoutinesTest, ARemovedNoteGivesBackWhatItPaidAndLeavesTheOthers) {
@@ -196,21 +201,19 @@ TEST(StatisticsTest, AnEmptyClinicKnowsHowSelectiveItsIndicesWillBe) {
 
 TEST_F(RoutinesTest, TaxIsTakenOutOfWhatTheLineCharges) {
     const auto line = [this](int codigo, int benefit) {
-        caja.spinsdetalle.set({{"p_caja", 1},
-                               {"p_notavta", 9},
-                               {"p_codigo", codigo},
-                               {"p_cant", 2.0},
-                               {"p_precio", 116.0},
-                               {"p_porcdescto", benefit},
-                               {"p_prog", 12510}});
-        caja.spinsdetalle.execute();
+        caja.spinsdetalle.execute({{"p_caja", 1},
+                                   {"p_notavta", 9},
+                                   {"p_codigo", codigo},
+                                   {"p_cant", 2.0},
+                                   {"p_precio", 116.0},
+                                   {"p_porcdescto", benefit},
+                                   {"p_prog", 12510}});
     };
     write("update listaprecios set porcentajeiva = 16 where codigo = 4001");
     write("update listaprecios set porcentajeiva = null where codigo = 4002");
     line(4001, 10);
     line(4002, 0);
-    caja.registraiva.set({{"caja", 1}, {"nota", 9}});
-    caja.registraiva.execute();
+    caja.registraiva.execute({{"caja", 1}, {"nota", 9}});
     EXPECT_EQ(rows("select importeiva, tipofactoriva from detallevtas order by codigo"),
               "28.8|Tasa; 0|Exento");
 }
