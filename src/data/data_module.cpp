@@ -2,8 +2,9 @@
 
 namespace kaldo {
 
-std::unique_ptr<NamedQuery> DataModule::newQuery(const char *name) const {
-    auto query = std::make_unique<NamedQuery>(QueryDefinition{name, ""});
+std::unique_ptr<NamedQuery> DataModule::newQuery(const char *name, const char *table,
+                                                 const char *keys) const {
+    auto query = std::make_unique<NamedQuery>(QueryDefinition{name, "", table, keys});
     query->bindTo(*connection_);
     return query;
 }

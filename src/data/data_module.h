@@ -23,8 +23,10 @@ public:
     const std::vector<Procedure *> &procedures() const { return procedures_; }
     const std::vector<Command *> &commands() const { return commands_; }
 
-    /// A query without a text, for a screen that builds its text at run time. The screen owns it.
-    std::unique_ptr<NamedQuery> newQuery(const char *name) const;
+    /// A query without a text, for a screen that builds its text at run time, and writes into
+    /// `table` by its `keys`, parted by commas, where these are given. The screen owns it.
+    std::unique_ptr<NamedQuery> newQuery(const char *name, const char *table = "",
+                                         const char *keys = "") const;
     /// Runs a uniqueness test: true if the text delivers a row.
     bool existe(const RuntimeText &text) const;
     /// Runs a text that delivers nothing; committed on return.
