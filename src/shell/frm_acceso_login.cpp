@@ -364,7 +364,10 @@ void FRMAcceso::BitBtn3Click() {
 }
 
 void FRMAcceso::BitBtn4Click() {
-    password_.reset();
+    const NamedQuery &user = context().odonto.ControlUsuarios1;
+    const bool hers = !user.isEmpty() &&
+                      user.text(QStringLiteral("usuario")) == session().Usuario.text();
+    password_.reset(hers ? std::optional(user.text(QStringLiteral("pass"))) : std::nullopt);
     password_.showModal(this);
     moveFocus(Edit2_);
 }

@@ -53,8 +53,9 @@ void FRMPass::build() {
         }));
 }
 
-void FRMPass::reset() {
+void FRMPass::reset(std::optional<QString> current) {
     ensureBuilt();
+    current_ = std::move(current);
     for (TextField *field : {Edit1_, Edit2_, Edit3_}) {
         field->clear();
     }
@@ -65,15 +66,17 @@ void FRMPass::reset() {
 }
 
 bool FRMPass::checkCurrent() {
-    const QString code = session().Usuario;
-    NamedQuery &user = context().odonto.ControlUsuarios1;
-    if (user.text(QStringLiteral("usuario")) != code) {
-        // A login that was refused left no row, or that of somebody else.
-        user.open({{QStringLiteral("usr"), code}, {QStringLiteral("pas"), Edit1_->text()}});
+    if (!current_) {
+        // A login that was refused meanwhile has left no row, or that of somebody else.
+        NamedQuery &user = context().odonto.ControlUsuarios1;
+        user.open({{QStringLiteral("usr"), session().Usuario.text()},
+                   {QStringLiteral("pas"), Edit1_->text()}});
+        if (!user.isEmpty()) {
+            current_ = user.text(QStringLiteral("pass"));
+        }
     }
     // No password is like none.
-    if (!user.isEmpty() &&
-        Edit1_->text().trimmed() == user.text(QStringLiteral("pass")).trimmed()) {
+    if (current_ && Edit1_->text().trimmed() == current_->trimmed()) {
         return true;
     }
     messages().warning(QStringLiteral(
