@@ -20,17 +20,17 @@ const QStringList &shiftCodes() {
     return codes;
 }
 
-PaidNote paidNote(const NamedQuery &note, const NamedQuery &payment) {
+PaidNote paidNote(const CutNote &note, const CutPayment &payment) {
     PaidNote paid;
-    paid.credito = payment.number(QStringLiteral("credito"));
-    paid.dolares = payment.number(QStringLiteral("dolares"));
-    paid.pesos = payment.number(QStringLiteral("pesos"));
-    paid.cambio = payment.number(QStringLiteral("cambio"));
-    paid.beca = payment.number(QStringLiteral("beca"));
-    paid.cheque = payment.number(QStringLiteral("cheque"));
-    paid.chequedll = payment.number(QStringLiteral("chequedll"));
-    paid.tipocambio = note.number(QStringLiteral("tipocambio"));
-    paid.status = note.text(QStringLiteral("status"));
+    paid.credito = payment.credito;
+    paid.dolares = payment.dolares;
+    paid.pesos = payment.pesos;
+    paid.cambio = payment.cambio;
+    paid.beca = payment.beca;
+    paid.cheque = payment.cheque;
+    paid.chequedll = payment.chequedll;
+    paid.tipocambio = note.tipoCambio;
+    paid.status = note.status;
     return paid;
 }
 
@@ -228,12 +228,12 @@ void FRM405::BorrarCorte() {
 
 void FRM405::CorteDetallado() {
     DMIngresosCaja &caja = context().caja;
-    const NamedQuery &note = caja.Qry405_2;
-    if (!countsInCut(note.text(QStringLiteral("tipo_vta")))) {
+    const CutNote note = caja.cutNote.current();
+    if (!countsInCut(note.tipoVta)) {
         return;
     }
-    const Parameters key{{QStringLiteral("caja"), note.value(QStringLiteral("num_caja"))},
-                         {QStringLiteral("nota"), note.value(QStringLiteral("nota_vta"))}};
+    const Parameters key{{QStringLiteral("caja"), note.numCaja},
+                         {QStringLiteral("nota"), note.notaVta}};
     caja.VtasContado.open(key);
     caja.FormaPago1.open(key);
     caja.PagosOdontologia1.open(key);
@@ -244,22 +244,21 @@ void FRM405::CorteDetallado() {
     if (caja.DatosCaja1.isOpen()) {
         pkTipoCaja = caja.DatosCaja1.integer(QStringLiteral("pk_tipo_caja"));
     }
-    const double importe = note.number(QStringLiteral("importe_tot"));
     NamedQuery &detalle = caja.CorteDetallado;
     detalle.append();
-    detalle.set(QStringLiteral("num_caja"), note.value(QStringLiteral("num_caja")));
-    detalle.set(QStringLiteral("nota_vta"), note.value(QStringLiteral("nota_vta")));
+    detalle.set(QStringLiteral("num_caja"), note.numCaja);
+    detalle.set(QStringLiteral("nota_vta"), note.notaVta);
     detalle.set(QStringLiteral("nombre"), caja.VtasContado.value(QStringLiteral("nombre")));
     detalle.set(QStringLiteral("tipo_pago"),
-                paymentLabel(paidNote(note, caja.FormaPago1), by, pkTipoCaja));
-    detalle.set(QStringLiteral("importe"), importe);
+                paymentLabel(paidNote(note, caja.cutPayment.current()), by, pkTipoCaja));
+    detalle.set(QStringLiteral("importe"), note.importeTot);
     detalle.set(QStringLiteral("usuario"), UsuarioCorte_.text());
     if (const int empleado = caja.PagosOdontologia1.integer(QStringLiteral("num_empl"));
         empleado != 0) {
         detalle.set(QStringLiteral("num_empl"), empleado);
     }
     detalle.apply();
-    SaldoFinal_.add(importe);
+    SaldoFinal_.add(note.importeTot);
 }
 
 void FRM405::CorteBancario() {

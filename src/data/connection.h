@@ -93,6 +93,8 @@ public:
 
     virtual Dialect dialect() const = 0;
     virtual bool isOpen() const = 0;
+    /// A statement would fail now: another call is being waited for (DatabaseFailure::Busy).
+    virtual bool waiting() const { return false; }
     virtual void open() = 0;
     virtual void close() = 0;
 

@@ -2,8 +2,30 @@
 
 #include "data/data_module.h"
 #include "data/dm_conexion.h"
+#include "data/record_reader.h"
 
 namespace kaldo {
+
+/// What the cash cut reads of each note.
+struct CutNote {
+    int numCaja = 0;
+    int notaVta = 0;
+    QString tipoVta;
+    QString status;
+    double importeTot = 0;
+    double tipoCambio = 0;  ///< the note's own rate
+};
+
+/// What the cash cut reads of a note's payment; NULL amounts are 0.
+struct CutPayment {
+    double credito = 0;
+    double dolares = 0;
+    double pesos = 0;
+    double cambio = 0;
+    double beca = 0;
+    double cheque = 0;
+    double chequedll = 0;
+};
 
 /// The cash desks' queries: price list, notes and their routines, the cash cut. Always bound to
 /// FBOdonto, in both branches.
@@ -61,6 +83,22 @@ public:
     NamedQuery CorteBancario;
     NamedQuery PagoAnticipo;
     NamedQuery SaldoPaciente;
+
+    RecordReader<CutNote> cutNote{Qry405_2,
+                                  {{"num_caja", &CutNote::numCaja},
+                                   {"nota_vta", &CutNote::notaVta},
+                                   {"tipo_vta", &CutNote::tipoVta},
+                                   {"status", &CutNote::status},
+                                   {"importe_tot", &CutNote::importeTot},
+                                   {"tipocambio", &CutNote::tipoCambio}}};
+    RecordReader<CutPayment> cutPayment{FormaPago1,
+                                        {{"credito", &CutPayment::credito},
+                                         {"dolares", &CutPayment::dolares},
+                                         {"pesos", &CutPayment::pesos},
+                                         {"cambio", &CutPayment::cambio},
+                                         {"beca", &CutPayment::beca},
+                                         {"cheque", &CutPayment::cheque},
+                                         {"chequedll", &CutPayment::chequedll}}};
 
     // Routines of a note
     Procedure registra_pago_odontologia_p;

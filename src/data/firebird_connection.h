@@ -42,6 +42,7 @@ public:
 
     Dialect dialect() const override { return Dialect::Firebird; }
     bool isOpen() const override;
+    bool waiting() const override { return runner_->waiting(); }
     void open() override;
     void close() override;
     std::unique_ptr<ResultSet> select(const Statement &statement,

@@ -26,19 +26,14 @@ bool sameValue(const QVariant &left, const QVariant &right) {
     return leftIsNumber && rightIsNumber ? leftNumber == rightNumber : left == right;
 }
 
-/// A column name in a text that is put together here: reserved words need their quotes.
-QString columnInText(const QString &name) {
-    return name == QLatin1String("USER") ? QStringLiteral("\"USER\"") : name.toLower();
-}
-
 }  // namespace
 
 NamedQuery::NamedQuery(const QueryDefinition &definition, QObject *parent)
-    : QAbstractTableModel(parent),
+    : RowModel(parent),
       name_(QString::fromUtf8(definition.name)),
       text_(QString::fromUtf8(definition.text)),
-      table_(QString::fromUtf8(definition.table)),
-      keys_(QString::fromUtf8(definition.keys).split(u',', Qt::SkipEmptyParts)) {
+      writer_(name_, QString::fromUtf8(definition.table),
+              QString::fromUtf8(definition.keys).split(u',', Qt::SkipEmptyParts)) {
     setObjectName(name_);
 }
 
@@ -61,26 +56,31 @@ void NamedQuery::addCalculated(const QString &field, Calculation calculation) {
 
 void NamedQuery::addLookup(const QString &field, const QString &key, NamedQuery &source,
                            const QString &sourceKey, const QString &result) {
-    lookups_.push_back({field.toUpper(), key.toUpper(), &source, sourceKey, result, {}, 0});
+    lookups_.emplace_back(field.toUpper(), key.toUpper(), source, sourceKey, result);
     const std::size_t place = lookups_.size() - 1;
-    const auto forget = [this, place] {
-        lookups_[place].known.clear();
-        lookups_[place].read = 0;
+    const auto changed = [this, place] {
+        lookups_[place].forget();
+        lookUpAll();
     };
-    connect(&source, &QAbstractItemModel::dataChanged, this, forget);
-    connect(&source, &QAbstractItemModel::modelReset, this, forget);
-    connect(&source, &QAbstractItemModel::rowsRemoved, this, forget);
-    connect(&source, &QAbstractItemModel::rowsInserted, this,
-            [this, place, forget](const QModelIndex &, int first) {
-                if (first < lookups_[place].read) {
-                    forget();
-                }
-            });
-    connect(&source, &NamedQuery::opened, this, [this] {
-        if (!rows_.empty()) {
-            emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    connect(&source, &QAbstractItemModel::dataChanged, this, changed);
+    connect(&source, &QAbstractItemModel::rowsRemoved, this, changed);
+    connect(&source, &NamedQuery::opened, this, changed);
+    connect(&source, &QAbstractItemModel::modelReset, this, [this, place, changed] {
+        // One that opens tells so when its first page is there.
+        if (lookups_[place].source().isOpen()) {
+            lookups_[place].forget();
+        } else {
+            changed();
         }
     });
+    connect(&source, &QAbstractItemModel::rowsInserted, this,
+            [this, place, changed](const QModelIndex &, int first) {
+                const RowLookup &lookup = lookups_[place];
+                const bool nextPage = first >= lookup.read() && lookup.source().canFetchMore({});
+                if (!lookup.finding() && !nextPage) {
+                    changed();
+                }
+            });
 }
 
 void NamedQuery::open(const Parameters &values) {
@@ -118,40 +118,32 @@ void NamedQuery::start(const Parameters &values) {
     // twice.
     beginResetModel();
     if (isOpen()) {
-        forgetRows();
+        forget();
     }
     result_ = std::move(result);
-    takeColumns(result_->columns());
+    takeColumns(allColumns(result_->columns()));
     state_ = State::Browsing;
     endResetModel();
 }
 
-void NamedQuery::takeColumns(const std::vector<Column> &stored) {
-    const std::size_t all = stored.size() + calculated_.size() + lookups_.size();
-    const auto same = [](const Column &left, const Column &right) {
-        return left.name == right.name && left.kind == right.kind && left.width == right.width;
-    };
-    if (lastColumns_.size() == all &&
-        std::equal(stored.begin(), stored.end(), lastColumns_.begin(), same)) {
-        columns_.swap(lastColumns_);
-        columnByName_.swap(lastColumnByName_);
-        return;
-    }
-    columns_ = stored;
+std::vector<Column> NamedQuery::allColumns(const std::vector<Column> &stored) const {
+    std::vector<Column> columns = stored;
     for (const Calculated &calculated : calculated_) {
-        columns_.push_back({calculated.field, ColumnKind::Text, 0});
+        columns.push_back({calculated.field, ColumnKind::Text, 0});
     }
-    for (const Lookup &lookup : lookups_) {
-        columns_.push_back({lookup.field, ColumnKind::Text, 0});
+    for (const RowLookup &lookup : lookups_) {
+        columns.push_back({lookup.field(), ColumnKind::Text, 0});
     }
-    columnByName_.clear();
-    for (std::size_t at = 0; at < columns_.size(); ++at) {
-        columnByName_.insert(columns_[at].name, static_cast<int>(at));
-    }
+    return columns;
+}
+
+RowWriter::Columns NamedQuery::storedColumns() const {
+    return RowWriter::Columns(columns()).first(columns().size() - calculated_.size() -
+                                               lookups_.size());
 }
 
 void NamedQuery::announceOpening() {
-    setCurrent(rows_.empty() ? -1 : 0);
+    setCurrent(isEmpty() ? -1 : 0);
     emit opened();
     emit stateChanged();
 }
@@ -161,17 +153,16 @@ void NamedQuery::close() {
         return;
     }
     beginResetModel();
-    forgetRows();
+    forget();
     state_ = State::Closed;
     endResetModel();
     emit stateChanged();
 }
 
-void NamedQuery::forgetRows() {
+void NamedQuery::forget() {
     result_.reset();
-    rows_.clear();
-    lastColumns_ = std::exchange(columns_, {});
-    lastColumnByName_ = std::exchange(columnByName_, {});
+    pageFailed_ = false;
+    forgetRows();
     pending_.reset();
     current_ = -1;
 }
@@ -180,7 +171,7 @@ int NamedQuery::count() {
     while (result_) {
         fetchPage(nextPage);
     }
-    return static_cast<int>(rows_.size());
+    return rowCount();
 }
 
 void NamedQuery::fetchPage(int wanted) {
@@ -191,28 +182,49 @@ void NamedQuery::fetchPage(int wanted) {
             result_.reset();
             break;
         }
-        calculate(row);
+        complete(row);
         if (accepts(row)) {
-            page.push_back(row);
+            page.push_back(std::move(row));
         }
     }
-    if (page.empty()) {
-        return;
-    }
-    const int firstNew = static_cast<int>(rows_.size());
-    beginInsertRows({}, firstNew, firstNew + static_cast<int>(page.size()) - 1);
-    std::move(page.begin(), page.end(), std::back_inserter(rows_));
-    endInsertRows();
+    appendRows(std::move(page));
 }
 
-void NamedQuery::calculate(Row &row) const {
+/// Works out what the row shows beside its own columns.
+void NamedQuery::complete(Row &row) {
     const auto reader = [this, &row](const QString &field) {
         return row.at(static_cast<std::size_t>(requireColumn(field)));
     };
     for (const Calculated &calculated : calculated_) {
         row.push_back(calculated.calculation(reader));
     }
-    row.resize(columns_.size());
+    row.resize(columns().size());
+    lookUp(row);
+}
+
+/// True where a name has changed.
+bool NamedQuery::lookUp(Row &row) {
+    bool changed = false;
+    std::size_t place = columns().size() - lookups_.size();
+    for (RowLookup &lookup : lookups_) {
+        QVariant found = lookup.find(row.at(static_cast<std::size_t>(requireColumn(lookup.key()))));
+        QVariant &shown = row.at(place++);
+        if (!sameValue(found, shown)) {
+            shown = std::move(found);
+            changed = true;
+        }
+    }
+    return changed;
+}
+
+void NamedQuery::lookUpAll() {
+    bool changed = false;
+    for (Row &row : rows()) {
+        changed = lookUp(row) || changed;
+    }
+    if (changed) {
+        tellChanged(0, rowCount() - 1);
+    }
 }
 
 bool NamedQuery::accepts(const Row &row) const {
@@ -222,10 +234,10 @@ bool NamedQuery::accepts(const Row &row) const {
 }
 
 bool NamedQuery::moveTo(int row) {
-    while (row >= static_cast<int>(rows_.size()) && result_) {
+    while (row >= rowCount() && result_) {
         fetchPage(nextPage);
     }
-    if (row < 0 || row >= static_cast<int>(rows_.size())) {
+    if (row < 0 || row >= rowCount()) {
         return false;
     }
     if (row != current_ && (state_ == State::Editing || state_ == State::Inserting)) {
@@ -244,10 +256,10 @@ bool NamedQuery::locate(const Parameters &values) {
         return false;
     }
     for (int row = 0;; ++row) {
-        if (row == static_cast<int>(rows_.size()) && result_) {
+        if (row == rowCount() && result_) {
             fetchPage(nextPage);
         }
-        if (row >= static_cast<int>(rows_.size())) {
+        if (row >= rowCount()) {
             return false;
         }
         const bool matches = std::all_of(values.begin(), values.end(), [&](const auto &wanted) {
@@ -259,66 +271,8 @@ bool NamedQuery::locate(const Parameters &values) {
     }
 }
 
-int NamedQuery::columnOf(const QString &field) const {
-    const auto known = columnByName_.constFind(field);
-    if (known != columnByName_.cend()) {
-        return *known;
-    }
-    const int column = columnByName_.value(field.toUpper(), -1);
-    if (column >= 0) {
-        columnByName_.insert(field, column);
-    }
-    return column;
-}
-
-int NamedQuery::requireColumn(const QString &field) const {
-    const int column = columnOf(field);
-    if (column < 0) {
-        throw std::logic_error((name() + QLatin1String(" has no field ") + field).toStdString());
-    }
-    return column;
-}
-
-bool NamedQuery::hasField(const QString &field) const {
-    return columnOf(field) >= 0;
-}
-
 QVariant NamedQuery::value(const QString &field) const {
     return current_ < 0 ? QVariant() : valueAt(current_, field);
-}
-
-QVariant NamedQuery::valueAt(int row, const QString &field) const {
-    for (Lookup &lookup : lookups_) {
-        if (lookup.field.compare(field, Qt::CaseInsensitive) == 0) {
-            return lookUp(lookup, row);
-        }
-    }
-    return rows_.at(static_cast<std::size_t>(row))
-        .at(static_cast<std::size_t>(requireColumn(field)));
-}
-
-QVariant NamedQuery::lookUp(Lookup &lookup, int row) const {
-    const QVariant key = valueAt(row, lookup.key);
-    if (!key.isValid() || !lookup.source->isOpen()) {
-        return QVariant();
-    }
-    const QString wanted = key.toString();
-    NamedQuery &source = *lookup.source;
-    while (!lookup.known.contains(wanted)) {
-        if (lookup.read == source.rowCount()) {
-            if (!source.result_) {
-                return QVariant();
-            }
-            source.fetchPage(nextPage);
-        }
-        for (; lookup.read < source.rowCount(); ++lookup.read) {
-            const QString found = source.valueAt(lookup.read, lookup.sourceKey).toString();
-            if (!lookup.known.contains(found)) {
-                lookup.known.insert(found, source.valueAt(lookup.read, lookup.result));
-            }
-        }
-    }
-    return lookup.known.value(wanted);
 }
 
 void NamedQuery::setState(State state) {
@@ -343,7 +297,7 @@ void NamedQuery::beginPending(Pending::Kind kind, int row) {
     if (!pending_) {
         pending_ = Pending{kind, row, {}};
         if (kind != Pending::Kind::Insert) {
-            pending_->before = rows_.at(static_cast<std::size_t>(row));
+            pending_->before = rowAt(row);
         }
     }
 }
@@ -353,14 +307,14 @@ void NamedQuery::edit() {
         return;
     }
     beginPending(Pending::Kind::Update, current_);
-    beforeEdit_ = rows_.at(static_cast<std::size_t>(current_));
+    beforeEdit_ = rowAt(current_);
     setState(State::Editing);
 }
 
 void NamedQuery::append() {
     prepareInsert();
     count();
-    insertAt(static_cast<int>(rows_.size()));
+    insertAt(rowCount());
 }
 
 void NamedQuery::insertFirst() {
@@ -381,16 +335,24 @@ void NamedQuery::prepareInsert() {
 }
 
 void NamedQuery::insertAt(int row) {
-    beginInsertRows({}, row, row);
-    const auto inserted = rows_.emplace(rows_.begin() + row, columns_.size());
-    beforeEdit_ = *inserted;
+    beforeEdit_ = Row(columns().size());
     if (current_ >= row) {
         ++current_;
     }
-    endInsertRows();
+    insertRowAt(row, beforeEdit_);
     setCurrent(row);
     beginPending(Pending::Kind::Insert, row);
     setState(State::Inserting);
+}
+
+/// To set a looked-up field is to set its key.
+QString NamedQuery::writtenField(const QString &field) const {
+    for (const RowLookup &lookup : lookups_) {
+        if (lookup.field().compare(field, Qt::CaseInsensitive) == 0) {
+            return lookup.key();
+        }
+    }
+    return field;
 }
 
 void NamedQuery::set(const QString &field, const QVariant &value) {
@@ -399,9 +361,10 @@ void NamedQuery::set(const QString &field, const QVariant &value) {
             (name() + QLatin1String(" has no row to set ") + field).toStdString());
     }
     edit();
-    const int column = requireColumn(field);
-    rows_.at(static_cast<std::size_t>(current_)).at(static_cast<std::size_t>(column)) = value;
-    emit dataChanged(index(current_, 0), index(current_, columnCount() - 1));
+    const auto column = static_cast<std::size_t>(requireColumn(writtenField(field)));
+    rowAt(current_).at(column) = value;
+    lookUp(rowAt(current_));
+    tellChanged(current_, current_);
 }
 
 void NamedQuery::post() {
@@ -426,22 +389,21 @@ void NamedQuery::remove() {
     }
     const int row = current_;
     beginPending(Pending::Kind::Delete, row);
-    beginRemoveRows({}, row, row);
-    rows_.erase(rows_.begin() + row);
-    endRemoveRows();
-    setCurrent(std::min(row, static_cast<int>(rows_.size()) - 1));
+    removeRowAt(row);
+    setCurrent(std::min(row, rowCount() - 1));
 }
 
 void NamedQuery::cancel() {
     if (state_ == State::Inserting) {
         cancelUpdates();
     } else if (state_ == State::Editing) {
-        rows_.at(static_cast<std::size_t>(current_)) = beforeEdit_;
+        rowAt(current_) = beforeEdit_;
         if (pending_ && pending_->kind == Pending::Kind::Update &&
             pending_->before == beforeEdit_) {
             pending_.reset();
         }
-        emit dataChanged(index(current_, 0), index(current_, columnCount() - 1));
+        lookUp(rowAt(current_));
+        tellChanged(current_, current_);
         setState(State::Browsing);
     }
 }
@@ -459,21 +421,21 @@ void NamedQuery::cancelUpdates() {
 void NamedQuery::undo(const Pending &pending) {
     switch (pending.kind) {
         case Pending::Kind::Insert:
-            beginRemoveRows({}, pending.row, pending.row);
-            rows_.erase(rows_.begin() + pending.row);
-            endRemoveRows();
-            setCurrent(std::min(pending.row, static_cast<int>(rows_.size()) - 1));
+            removeRowAt(pending.row);
+            setCurrent(std::min(pending.row, rowCount() - 1));
             break;
         case Pending::Kind::Update:
-            rows_.at(static_cast<std::size_t>(pending.row)) = pending.before;
-            emit dataChanged(index(pending.row, 0), index(pending.row, columnCount() - 1));
+            rowAt(pending.row) = pending.before;
+            lookUp(rowAt(pending.row));
+            tellChanged(pending.row, pending.row);
             break;
-        case Pending::Kind::Delete:
-            beginInsertRows({}, pending.row, pending.row);
-            rows_.insert(rows_.begin() + pending.row, pending.before);
-            endInsertRows();
+        case Pending::Kind::Delete: {
+            Row row = pending.before;
+            lookUp(row);
+            insertRowAt(pending.row, std::move(row));
             setCurrent(pending.row);
             break;
+        }
     }
 }
 
@@ -486,13 +448,14 @@ void NamedQuery::apply() {
     Statement statement;
     switch (pending_->kind) {
         case Pending::Kind::Insert:
-            statement = insertStatement(&values);
+            statement = writer_.insertion(storedColumns(), rowAt(pending_->row), &values);
             break;
         case Pending::Kind::Update:
-            statement = updateStatement(&values);
+            statement =
+                writer_.update(storedColumns(), rowAt(pending_->row), pending_->before, &values);
             break;
         case Pending::Kind::Delete:
-            statement = deleteStatement(&values);
+            statement = writer_.deletion(storedColumns(), pending_->before, &values);
             break;
     }
     if (!statement.text.isEmpty() && connection_->execute(statement, values) == 0) {
@@ -501,131 +464,37 @@ void NamedQuery::apply() {
     pending_.reset();
 }
 
-QString NamedQuery::keyCondition(const Row &row, Parameters *values) const {
-    QStringList conditions;
-    for (const QString &key : keys_) {
-        const QVariant &value = row.at(static_cast<std::size_t>(requireColumn(key)));
-        if (value.isValid()) {
-            conditions += QStringLiteral("%1 = :key_%1").arg(columnInText(key.toUpper()));
-            values->append({QStringLiteral("key_") + columnInText(key.toUpper()), value});
-        } else {
-            conditions += columnInText(key.toUpper()) + QLatin1String(" is null");
-        }
-    }
-    if (conditions.isEmpty()) {
-        throw std::logic_error((name() + QLatin1String(" has no key to write by")).toStdString());
-    }
-    return conditions.join(QLatin1String(" and "));
-}
-
-Statement NamedQuery::insertStatement(Parameters *values) {
-    const Row &row = rows_.at(static_cast<std::size_t>(pending_->row));
-    const std::size_t stored = columns_.size() - calculated_.size() - lookups_.size();
-    QStringList assigned;
-    for (std::size_t at = 0; at < stored; ++at) {
-        if (row[at].isValid()) {
-            assigned += columns_[at].name;
-            values->append({columns_[at].name, row[at]});
-        }
-    }
-    // A screen that appends thousands of rows assigns the same columns each time.
-    if (assigned != insertedColumns_) {
-        insertedColumns_ = assigned;
-        QStringList names;
-        for (const QString &name : std::as_const(assigned)) {
-            names += columnInText(name);
-        }
-        insertText_ =
-            QStringLiteral("insert into %1 (%2) values (:%3)")
-                .arg(table_, names.join(QLatin1String(", ")), assigned.join(QLatin1String(", :")));
-    }
-    if (assigned.isEmpty()) {
-        insertText_ = QStringLiteral("insert into %1 default values").arg(table_);
-    }
-    return {name() + QLatin1String(" (insert)"), insertText_};
-}
-
-Statement NamedQuery::updateStatement(Parameters *values) const {
-    const Row &row = rows_.at(static_cast<std::size_t>(pending_->row));
-    QStringList changes;
-    const std::size_t stored = columns_.size() - calculated_.size() - lookups_.size();
-    for (std::size_t at = 0; at < stored; ++at) {
-        if (row[at] == pending_->before[at] &&
-            row[at].isValid() == pending_->before[at].isValid()) {
-            continue;
-        }
-        // Named as the column is: a value that doesn't fit is told with the parameter's name.
-        changes +=
-            QStringLiteral("%1 = :%2").arg(columnInText(columns_[at].name), columns_[at].name);
-        values->append({columns_[at].name, row[at]});
-    }
-    if (changes.isEmpty()) {
-        return {};
-    }
-    const QString condition = keyCondition(pending_->before, values);
-    return {name() + QLatin1String(" (update)"),
-            QStringLiteral("update %1 set %2 where %3")
-                .arg(table_, changes.join(QLatin1String(", ")), condition)};
-}
-
-Statement NamedQuery::deleteStatement(Parameters *values) const {
-    const QString condition = keyCondition(pending_->before, values);
-    return {name() + QLatin1String(" (delete)"),
-            QStringLiteral("delete from %1 where %2").arg(table_, condition)};
-}
-
-int NamedQuery::rowCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-int NamedQuery::columnCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
-}
-
-QVariant NamedQuery::data(const QModelIndex &index, int role) const {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) {
-        return QVariant();
-    }
-    return valueAt(index.row(), columns_.at(static_cast<std::size_t>(index.column())).name);
-}
-
 bool NamedQuery::setData(const QModelIndex &index, const QVariant &value, int role) {
     if (!index.isValid() || role != Qt::EditRole || !moveTo(index.row())) {
         return false;
     }
-    QString field = columns_.at(static_cast<std::size_t>(index.column())).name;
-    for (const Lookup &lookup : lookups_) {
-        if (lookup.field == field) {
-            field = lookup.key;
-        }
-    }
-    set(field, value);
+    set(columns().at(static_cast<std::size_t>(index.column())).name, value);
     return true;
 }
 
-QVariant NamedQuery::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
-        section >= columnCount()) {
-        return QAbstractTableModel::headerData(section, orientation, role);
-    }
-    return columns_.at(static_cast<std::size_t>(section)).name;
-}
-
 Qt::ItemFlags NamedQuery::flags(const QModelIndex &index) const {
-    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    if (index.isValid() && !table_.isEmpty()) {
+    Qt::ItemFlags flags = RowModel::flags(index);
+    if (index.isValid() && !writer_.table().isEmpty()) {
         flags |= Qt::ItemIsEditable;
     }
     return flags;
 }
 
 bool NamedQuery::canFetchMore(const QModelIndex &parent) const {
-    return !parent.isValid() && result_ != nullptr;
+    return !parent.isValid() && result_ != nullptr && !pageFailed_ && !connection_->waiting();
 }
 
 void NamedQuery::fetchMore(const QModelIndex &parent) {
-    if (canFetchMore(parent)) {
+    if (!canFetchMore(parent)) {
+        return;
+    }
+    try {
         fetchPage(nextPage);
+    } catch (const DatabaseError &failure) {
+        pageFailed_ = true;
+        // Not from here: views ask in the middle of their painting.
+        QMetaObject::invokeMethod(
+            this, [failure] { throw failure; }, Qt::QueuedConnection);
     }
 }
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QAbstractTableModel>
 #include <QDate>
-#include <QHash>
 #include <QStringList>
 
 #include <functional>
@@ -10,6 +8,9 @@
 #include <optional>
 
 #include "data/connection.h"
+#include "data/row_lookup.h"
+#include "data/row_model.h"
+#include "data/row_writer.h"
 #include "data/runtime_text.h"
 
 namespace kaldo {
@@ -23,16 +24,13 @@ struct QueryDefinition {
 };
 
 /// The data set that grids and fields bind to: a query with a row cursor, fetched in pages, with
-/// at most one pending row.
-///
-/// As a model its columns are the fields (headerData gives their names), DisplayRole and EditRole
-/// the raw values. Fields are named without regard to case. On a closed or an empty query every
-/// field reads as NULL.
+/// at most one pending row. On a closed or an empty query every field reads as NULL. What a row
+/// shows is worked out when it's fetched.
 ///
 /// Editing: edit() or append(), set(), post(), apply(). A posted row is written by apply(); when
 /// that fails, the row stays pending and apply() can be tried again or cancelUpdates() undoes it.
 /// Moving the cursor posts an open row.
-class NamedQuery : public QAbstractTableModel {
+class NamedQuery : public RowModel {
     Q_OBJECT
 
 public:
@@ -49,8 +47,12 @@ public:
     /// The text that runs: the definition's, or the one that was last set at run time.
     Statement statement() const { return {name_, text_}; }
 
-    const QString &updateTable() const { return table_; }
-    const QStringList &updateKeys() const { return keys_; }
+    const QString &updateTable() const { return writer_.table(); }
+    const QStringList &updateKeys() const { return writer_.keys(); }
+
+    /// A field that somebody reads by its place: the test of all texts looks for it.
+    void expectField(const QString &field) { expected_ += field; }
+    const QStringList &expectedFields() const { return expected_; }
 
     void bindTo(Connection &connection) { connection_ = &connection; }
     Connection &connection() const { return *connection_; }
@@ -66,9 +68,9 @@ public:
     /// through.
     void setFilter(RowFilter filter) { filter_ = std::move(filter); }
 
-    /// Adds a field that looks `key` up among the rows of `source` and gives its `result`.
-    /// To set the field is to set `key`. Each row of `source` is read once per opening of it, and
-    /// no further than to the first that has the key. `source` must outlive this query.
+    /// Adds a field that looks `key` up among the rows of `source` and gives its `result`, from the
+    /// moment when a row is fetched or its `key` is set, and anew when `source` is opened, closed
+    /// or changed. To set the field is to set `key`. `source` must outlive this query.
     void addLookup(const QString &field, const QString &key, NamedQuery &source,
                    const QString &sourceKey, const QString &result);
 
@@ -81,7 +83,7 @@ public:
     void close();
     bool isOpen() const { return state_ != State::Closed; }
     State state() const { return state_; }
-    bool isEmpty() const { return rows_.empty(); }
+    bool isEmpty() const { return rows().empty(); }
     /// Number of rows; fetches to the end.
     int count();
 
@@ -93,7 +95,6 @@ public:
     /// numbers as numbers). Without such a row it stays where it is.
     bool locate(const Parameters &values);
 
-    bool hasField(const QString &field) const;
     QVariant value(const QString &field) const;
     QString text(const QString &field) const { return value(field).toString(); }
     /// 0 for NULL and for what is no number.
@@ -101,7 +102,6 @@ public:
     double number(const QString &field) const { return value(field).toDouble(); }
     QDate date(const QString &field) const { return value(field).toDate(); }
     bool isNull(const QString &field) const { return !value(field).isValid(); }
-    QVariant valueAt(int row, const QString &field) const;
 
     void edit();
     void append();
@@ -121,14 +121,11 @@ public:
     void cancelUpdates();
     bool isPending() const { return pending_.has_value(); }
 
-    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
-    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
-    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    QVariant headerData(int section, Qt::Orientation orientation,
-                        int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    /// False also where a page couldn't be fetched: a view that paints asks no second time.
     bool canFetchMore(const QModelIndex &parent) const override;
+    /// For views: a failure is told from the event loop, as that of a handler.
     void fetchMore(const QModelIndex &parent) override;
 
 signals:
@@ -141,65 +138,44 @@ private:
         QString field;
         Calculation calculation;
     };
-    struct Lookup {
-        QString field;
-        QString key;
-        NamedQuery *source;
-        QString sourceKey;
-        QString result;
-        QHash<QString, QVariant> known;  ///< results by key, of the source's first rows
-        int read = 0;                    ///< how many these are
-    };
     struct Pending {
         enum class Kind { Insert, Update, Delete } kind;
         int row;
         Row before;  ///< as it was fetched; empty for an insert
     };
 
-    int columnOf(const QString &field) const;
-    int requireColumn(const QString &field) const;
     void start(const Parameters &values);
-    void forgetRows();
-    void takeColumns(const std::vector<Column> &stored);
+    void forget();
+    std::vector<Column> allColumns(const std::vector<Column> &stored) const;
+    RowWriter::Columns storedColumns() const;
     void announceOpening();
     bool accepts(const Row &row) const;
-    QVariant lookUp(Lookup &lookup, int row) const;
     void fetchPage(int rows);
-    void calculate(Row &row) const;
+    void complete(Row &row);
+    bool lookUp(Row &row);
+    void lookUpAll();
+    QString writtenField(const QString &field) const;
     void setState(State state);
     void setCurrent(int row);
     void beginPending(Pending::Kind kind, int row);
     void prepareInsert();
     void insertAt(int row);
     void undo(const Pending &pending);
-    Statement insertStatement(Parameters *values);
-    Statement updateStatement(Parameters *values) const;
-    Statement deleteStatement(Parameters *values) const;
-    QString keyCondition(const Row &row, Parameters *values) const;
 
     QString name_;
     QString text_;
-    QString table_;
-    QStringList keys_;
+    RowWriter writer_;
+    QStringList expected_;
     Connection *connection_ = nullptr;
     Parameters values_;
-    std::vector<Column> columns_;
-    /// By their names, and as the screens spell them once they did.
-    mutable QHash<QString, int> columnByName_;
-    // Those of the last opening: a screen that reopens a query for each of thousands of notes
-    // finds the same columns.
-    std::vector<Column> lastColumns_;
-    QHash<QString, int> lastColumnByName_;
     std::vector<Calculated> calculated_;
-    mutable std::vector<Lookup> lookups_;
+    std::vector<RowLookup> lookups_;
     RowFilter filter_;
     std::unique_ptr<ResultSet> result_;
-    std::vector<Row> rows_;
+    bool pageFailed_ = false;
     int current_ = -1;
     State state_ = State::Closed;
     std::optional<Pending> pending_;
-    QStringList insertedColumns_;
-    QString insertText_;
     Row beforeEdit_;
 };
 

@@ -44,10 +44,23 @@ TEST(ModulesTest, EveryTextPreparesAgainstFreshDatabases) {
         }
     };
     int prepared = 0;
+    int readByPlace = 0;
     for (const DataModule *module : modules.all()) {
         for (const NamedQuery *query : module->queries()) {
             prepares(query->connection(), query->statement());
             ++prepared;
+            if (query->expectedFields().isEmpty()) {
+                continue;
+            }
+            QStringList columns;
+            for (const Column &column : query->connection().describe(query->statement())) {
+                columns += column.name;
+            }
+            for (const QString &field : query->expectedFields()) {
+                EXPECT_TRUE(columns.contains(field.toUpper()))
+                    << query->name().toStdString() << ": " << field.toStdString();
+                ++readByPlace;
+            }
         }
         for (const Procedure *procedure : module->procedures()) {
             prepares(procedure->connection(), procedure->statement());
@@ -59,6 +72,7 @@ TEST(ModulesTest, EveryTextPreparesAgainstFreshDatabases) {
         }
     }
     EXPECT_GT(prepared, 70);
+    EXPECT_GE(readByPlace, 13);
     Connection &clinic = modules.conexion.FBOdonto;
     prepares(clinic, {"Expe", expeText("00001/24", "VAN").firebird()});
     prepares(clinic, {"ConsultaAdmision", consultaAdmisionText("a", "b", "c").firebird()});

@@ -252,10 +252,9 @@ TEST_F(RoutinesTest, TheBankCutHasOneRowPerAccountSourceFundAndWay) {
                       .arg(QLatin1String(paid.fondo)));
         }
     }
-    caja.CompletaCorteBancario.set(
-        {{"usr", "cajero1"}, {"caja", 1}, {"fecha", QDate(2024, 11, 20)}});
     for (int times = 0; times < 2; ++times) {
-        caja.CompletaCorteBancario.execute();
+        caja.CompletaCorteBancario.execute(
+            {{"usr", "cajero1"}, {"caja", 1}, {"fecha", QDate(2024, 11, 20)}});
         EXPECT_EQ(rows("select bancoid, ftefto, fondo, concepto, importe from cortebancario order "
                        "by bancoid, fondo, concepto"),
                   "1|1400|11|CHEQUE|5; 1|1400|11|EFECTIVO|100; 1|1400|11|TARJETA|30; "
