@@ -15,13 +15,18 @@ constexpr int kFirstPort = 20000;
 constexpr int kPorts = 10000;
 constexpr int kPortsTried = 20;
 
+QStringList naming(PrivateServer::Registry registry) {
+    return registry == PrivateServer::Registry::Named ? QStringList{QStringLiteral("--registry")}
+                                                      : QStringList{};
+}
+
 }  // namespace
 
 PrivateServer::PrivateServer(const QString &root, Registry registry)
     : root_(root), registry_(registry) {
     for (int attempt = 0; attempt < kPortsTried; ++attempt) {
         port_ = kFirstPort + (::getpid() * 7 + attempt * 131) % kPorts;
-        if (start()) {
+        if (script(QStringLiteral("start"), naming(registry))) {
             return;
         }
     }
@@ -30,15 +35,16 @@ PrivateServer::PrivateServer(const QString &root, Registry registry)
 
 PrivateServer::~PrivateServer() {
     thaw();
-    stop();
+    script(QStringLiteral("stop"), naming(registry_));
 }
 
+// What runs again has its registry named already, and a station may hold it open.
 bool PrivateServer::start() {
-    return script(QStringLiteral("start"), {QStringLiteral("--port"), QString::number(port_)});
+    return script(QStringLiteral("start"), {});
 }
 
 void PrivateServer::stop() {
-    script(QStringLiteral("stop"));
+    script(QStringLiteral("stop"), {});
 }
 
 void PrivateServer::kill() const {
@@ -57,11 +63,9 @@ bool PrivateServer::script(const QString &command, const QStringList &arguments)
     QProcess process;
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
-    QStringList all = QStringList{command, root_} + arguments;
-    if (registry_ == Registry::Named) {
-        all += QStringLiteral("--registry");
-    }
-    process.start(QStringLiteral(KALDO_SOURCE_DIR "/scripts/server"), all);
+    process.start(
+        QStringLiteral(KALDO_SOURCE_DIR "/scripts/server"),
+        QStringList{command, root_, QStringLiteral("--port"), QString::number(port_)} + arguments);
     constexpr int patience = 60000;
     return process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit &&
            process.exitCode() == 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 namespace kaldo::test {
 
@@ -20,7 +20,7 @@ public:
     QString host() const { return QStringLiteral("127.0.0.1/%1:").arg(port_); }
     /// Starts it again, on the same port, where it isn't running any more.
     bool start();
-    /// Ends it as an administrator does.
+    /// Ends it as an administrator does; its port stays.
     void stop();
     /// It dies without a word to anyone.
     void kill() const;
@@ -29,7 +29,7 @@ public:
     void thaw() const;
 
 private:
-    bool script(const QString &command, const QStringList &arguments = {}) const;
+    bool script(const QString &command, const QStringList &arguments) const;
     void signal(int number) const;
 
     QString root_;
