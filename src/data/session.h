@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 #include "toolkit/core/money.h"
 #include "toolkit/core/text.h"
@@ -9,6 +10,11 @@ namespace kaldo {
 
 /// Which list of admissions the admission screens show.
 enum class AdmissionFilter { Today = 1, Authorised = 2, LastMonth = 3 };
+
+/// How a note was paid, as KDREGISTRA_METODOPAGO_P gets it; all NULL before the first note.
+struct MethodOfPayment {
+    QVariant cve, importe, moneda, tipoCambio;
+};
 
 /// Who works at this station, and on what: filled at start-up and by the login, replaced by the
 /// next login. Texts are cut to their width when they are assigned.
@@ -41,6 +47,8 @@ struct Session {
 
     // While the program runs.
     FixedText<8> UltimoExpediente;
+    MethodOfPayment
+        UltimoMetodo;           ///< of the last note that had one; one without is written with it
     FixedText<60> ClasifDescr;  ///< the sales area that FRM104 shows
     int ImpresoraIndice = -1;   ///< -1 is the default printer
 

@@ -81,6 +81,8 @@ int Registration::registrarAdmision(const NoteDraft &draft) {
 }
 
 void Registration::MetodoPago(const NoteDraft &draft, const Payment &payment) {
+    Session &session = context_.session;
+    session.UltimoMetodo = methodOfPayment(payment, session.UltimoMetodo);
     context_.caja.sp_registrametodopago.execute(
         methodOfPaymentParameters(draft, payment, sessionValues()));
 }
@@ -119,6 +121,7 @@ RegistrationContext Registration::sessionValues() const {
     values.centro = session.Centro;
     values.origen2 = session.Origen2;
     values.mpioNota = mpioNota_;
+    values.ultimoMetodo = session.UltimoMetodo;
     values.today = context_.clock.today();
     return values;
 }

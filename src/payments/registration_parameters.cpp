@@ -166,42 +166,36 @@ NewAdmission newAdmission(const NoteDraft &draft, const RegistrationContext &con
     return admission;
 }
 
-Parameters methodOfPaymentParameters(const NoteDraft &draft, const Payment &payment,
-                                     const RegistrationContext &context) {
-    struct Method {
-        QVariant cve, importe, moneda, tipoCambio;
-    } method;
+MethodOfPayment methodOfPayment(const Payment &payment, const MethodOfPayment &last) {
     const QString cash = QStringLiteral("01");
     const QString mxn = QStringLiteral("MXN");
-    bool found = false;
-    if (payment.dolares > 0) {
-        method = {cash, payment.dolares * payment.tipoCam - payment.cambio, QStringLiteral("USD"),
-                  payment.tipoCam};
-        found = true;
-    }
-    if (payment.pesos > 0) {
-        method = {cash, difference(payment.pesos, payment.cambio), mxn, 0.0};
-        found = true;
-    }
     if (payment.tarjetaCredito > 0) {
         const bool debit = payment.tipoDeTarjeta == CardKind::Debito;
-        method = {debit ? QStringLiteral("28") : QStringLiteral("04"), payment.tarjetaCredito, mxn,
-                  0.0};
-        found = true;
+        return {debit ? QStringLiteral("28") : QStringLiteral("04"), payment.tarjetaCredito, mxn,
+                0.0};
     }
+    if (payment.pesos > 0) {
+        return {cash, difference(payment.pesos, payment.cambio), mxn, 0.0};
+    }
+    if (payment.dolares > 0) {
+        return {cash, payment.dolares * payment.tipoCam - payment.cambio, QStringLiteral("USD"),
+                payment.tipoCam};
+    }
+    return last;
+}
+
+Parameters methodOfPaymentParameters(const NoteDraft &draft, const Payment &payment,
+                                     const RegistrationContext &context) {
+    const MethodOfPayment method = methodOfPayment(payment, context.ultimoMetodo);
     Parameters parameters{{QStringLiteral("CAJA"), context.numCaja},
-                          {QStringLiteral("NOTA"), draft.notaActual}};
-    if (found) {
-        parameters.append({QStringLiteral("CVE"), method.cve});
-        parameters.append({QStringLiteral("IMPORTE"), method.importe});
-    }
+                          {QStringLiteral("NOTA"), draft.notaActual},
+                          {QStringLiteral("CVE"), method.cve},
+                          {QStringLiteral("IMPORTE"), method.importe}};
     for (const char *name : {"CTA", "RFCBANCO", "BANCO", "OPERACION", "RFCDESTINO", "CTADESTINO"}) {
         parameters.append({QString::fromLatin1(name), QStringLiteral("")});
     }
-    if (found) {
-        parameters.append({QStringLiteral("MONEDA"), method.moneda});
-        parameters.append({QStringLiteral("TIPOCAMBIO"), method.tipoCambio});
-    }
+    parameters.append({QStringLiteral("MONEDA"), method.moneda});
+    parameters.append({QStringLiteral("TIPOCAMBIO"), method.tipoCambio});
     return parameters;
 }
 

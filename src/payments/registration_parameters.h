@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/parameters.h"
+#include "data/session.h"
 #include "payments/note_draft.h"
 #include "payments/payment.h"
 
@@ -26,6 +27,7 @@ struct RegistrationContext {
     QString origen2;  ///< campus code of two characters
     QString mpioNota;
     QDate today;
+    MethodOfPayment ultimoMetodo;
 };
 
 // Each function gives the parameters of one routine by name, in the routine's order. Texts that the
@@ -60,9 +62,10 @@ Parameters noteParameters(const NoteDraft &draft, const Payment &payment,
 bool createsAdmission(const NoteDraft &draft);
 NewAdmission newAdmission(const NoteDraft &draft, const RegistrationContext &context, int folio);
 
-/// KDREGISTRA_METODOPAGO_P. One method per note: card beats pesos beats dollars. A note paid by
-/// none of them gives only desk, note and the parameters that are always empty: the rest stays
-/// with the routine as the last note of the session left it.
+/// One method per note: card beats pesos beats dollars. A note paid by none of them keeps the last.
+MethodOfPayment methodOfPayment(const Payment &payment, const MethodOfPayment &last);
+
+/// KDREGISTRA_METODOPAGO_P.
 Parameters methodOfPaymentParameters(const NoteDraft &draft, const Payment &payment,
                                      const RegistrationContext &context);
 

@@ -365,8 +365,8 @@ void FRMAcceso::BitBtn3Click() {
 
 void FRMAcceso::BitBtn4Click() {
     const NamedQuery &user = context().odonto.ControlUsuarios1;
-    const bool hers = !user.isEmpty() &&
-                      user.text(QStringLiteral("usuario")) == session().Usuario.text();
+    const bool hers =
+        !user.isEmpty() && user.text(QStringLiteral("usuario")) == session().Usuario.text();
     password_.reset(hers ? std::optional(user.text(QStringLiteral("pass"))) : std::nullopt);
     password_.showModal(this);
     moveFocus(Edit2_);

@@ -202,9 +202,12 @@ TEST(Registration, OneMethodOfPaymentPerNote) {
     EXPECT_EQ(valueOf(methodOfPaymentParameters(draft, debit, context()), "CVE"), "28");
 
     sent = method(0, 0, 0);  // a cheque, or nothing to pay: what stood stays
-    for (const char *stale : {"CVE", "IMPORTE", "MONEDA", "TIPOCAMBIO"}) {
-        EXPECT_FALSE(has(sent, stale)) << stale;
-    }
+    EXPECT_FALSE(valueOf(sent, "CVE").isValid());
+    RegistrationContext later = context();
+    later.ultimoMetodo = methodOfPayment(debit, {});
+    sent = methodOfPaymentParameters(draft, paidWith(draft, 0, 0, 0), later);
+    EXPECT_EQ(valueOf(sent, "CVE"), "28");
+    EXPECT_EQ(valueOf(sent, "IMPORTE"), 500.0);
     EXPECT_EQ(valueOf(sent, "NOTA"), 1532);
     EXPECT_EQ(valueOf(sent, "CTADESTINO"), "");
 }
