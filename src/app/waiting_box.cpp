@@ -94,39 +94,46 @@ private:
         return label;
     }
 
-    FocusKeeper::Hold hold_;
-    ActivationReturn activation_;
     QLabel *waited_ = nullptr;
     qint64 shown_ = -1;
     bool givenUp_ = false;
+};
+
+/// The box, and what is put right again in this order once it has gone.
+struct WaitingBox::Standing {
+    explicit Standing(const QString &whom) : box(whom) {}
+
+    FocusKeeper::Hold hold;
+    ActivationReturn activation;
+    Box box;
 };
 
 WaitingBox::WaitingBox() = default;
 WaitingBox::~WaitingBox() = default;
 
 void WaitingBox::waitingBegan(const QString &whom) {
-    box_ = std::make_unique<Box>(whom);
-    box_->showWaited(std::chrono::seconds(2));
+    standing_ = std::make_unique<Standing>(whom);
+    standing_->box.showWaited(std::chrono::seconds(2));
     QCoreApplication::instance()->installEventFilter(this);
-    box_->show();
+    standing_->box.show();
 }
 
 bool WaitingBox::stillWaiting(std::chrono::milliseconds waited) {
-    box_->showWaited(waited);
+    standing_->box.showWaited(waited);
     QCoreApplication::processEvents(QEventLoop::AllEvents, kTurnMilliseconds);
-    return box_->givenUp();
+    return standing_->box.givenUp();
 }
 
 void WaitingBox::waitingEnded() {
     // What was struck while the box stood, and has not been looked at yet, goes with it.
     QCoreApplication::processEvents(QEventLoop::AllEvents, kTurnMilliseconds);
     QCoreApplication::instance()->removeEventFilter(this);
-    box_.reset();
+    standing_.reset();
 }
 
 bool WaitingBox::belongsToBox(const QObject *receiver) const {
     for (const QObject *each = receiver; each != nullptr; each = each->parent()) {
-        if (each == box_.get() || each == box_->windowHandle()) {
+        if (each == &standing_->box || each == standing_->box.windowHandle()) {
             return true;
         }
     }

@@ -24,10 +24,11 @@ public:
 
 private:
     class Box;
+    struct Standing;
 
     bool belongsToBox(const QObject *receiver) const;
 
-    std::unique_ptr<Box> box_;
+    std::unique_ptr<Standing> standing_;
 };
 
 }  // namespace kaldo

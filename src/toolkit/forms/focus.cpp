@@ -114,9 +114,7 @@ void FocusKeeper::schedule() {
         scheduled_ = true;
         QTimer::singleShot(0, this, [this] {
             scheduled_ = false;
-            if (holds_ == 0) {
-                settle();
-            }
+            settle();
         });
     }
 }
@@ -130,6 +128,9 @@ FocusKeeper::Hold::~Hold() {
 
 bool FocusKeeper::settle() {
     sentBack_ = false;
+    if (holds_ > 0) {
+        return false;
+    }
     while (!tasks_.empty() || !requests_.isEmpty()) {
         const std::vector<std::function<void()>> tasks = std::exchange(tasks_, {});
         for (const auto &task : tasks) {
