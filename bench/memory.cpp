@@ -5,8 +5,11 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include "bench/bench_station.h"
 #include "bench/measurements.h"
+#include "bench/note_typist.h"
 #include "tests/support/private_server.h"
+#include "tests/support/test_installation.h"
 
 namespace kaldo::bench {
 

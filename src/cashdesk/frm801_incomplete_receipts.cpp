@@ -103,6 +103,9 @@ void FRM801::borrarUltimaNota() {
         "La última nota se encontró registrada de manera incompleta, vuelva a captarla"));
     devolverNumero();
     activated();
+    if (options().GenerarEstadisticas) {
+        context().frame.refreshDeskFigures();
+    }
 }
 
 void FRM801::borrarNota(const QString &servicio) {

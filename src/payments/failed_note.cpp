@@ -1,6 +1,7 @@
 #include "payments/failed_note.h"
 
 #include "data/database_error.h"
+#include "toolkit/core/log.h"
 
 namespace kaldo {
 
@@ -18,7 +19,8 @@ QString tellFailedNote(Context &context, int nota) {
                 .arg(nota)
                 .arg(capto);
         }
-    } catch (const DatabaseError &) {
+    } catch (const DatabaseError &failure) {
+        logSwallowed(QStringLiteral("caja de la nota %1").arg(nota), failure);
         // A database that is away has no note to tell of, and its hold on the desk lapses.
     }
     return {};

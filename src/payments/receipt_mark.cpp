@@ -1,6 +1,7 @@
 #include "payments/receipt_mark.h"
 
 #include "data/database_error.h"
+#include "toolkit/core/log.h"
 
 namespace kaldo {
 
@@ -19,7 +20,8 @@ void markReceipts(Context &context, int nota) {
 void unmarkReceipts(Context &context, int nota) {
     try {
         context.local.QuitaMarcaRecibo.execute(noteOf(context.session.NumCaja, nota));
-    } catch (const DatabaseError &) {
+    } catch (const DatabaseError &failure) {
+        logSwallowed(QStringLiteral("marca de la nota %1").arg(nota), failure);
         // The patient has the paper, and the note must not be typed again.
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QTime>
 
+#include "toolkit/forms/complaint.h"
 #include "toolkit/forms/line_field.h"
 
 namespace kaldo {
@@ -22,7 +23,7 @@ public:
         if (maskedText().isEmpty() || time().isValid()) {
             return true;
         }
-        complain(QStringLiteral("La hora debe estar entre 00:00:00 y 23:59:59."));
+        complain(this, QStringLiteral("La hora debe estar entre 00:00:00 y 23:59:59."));
         return false;
     }
 };

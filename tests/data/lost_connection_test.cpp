@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QTcpServer>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -78,6 +79,15 @@ TEST_F(LostConnectionTest, ACallThatLosesItFailsOnceAndTheNextAttachesAnew) {
         EXPECT_TRUE(again.details().repeated) << "it was told a moment ago";
         EXPECT_LT(timer.elapsed(), 1000);
         ASSERT_TRUE(server.start());
+        // A server that refused a moment ago is asked again after a second.
+        const auto attached = [&] {
+            try {
+                connection->open();
+            } catch (const DatabaseError &) {
+            }
+            return connection->isOpen();
+        };
+        ASSERT_TRUE(QTest::qWaitFor(attached));
         EXPECT_EQ(count(), cleanly ? 2 : 1) << "nothing is repeated";
     }
 }

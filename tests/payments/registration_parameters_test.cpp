@@ -12,7 +12,7 @@ using test::noteLine;
 using test::paidWith;
 
 RegistrationContext context() {
-    return {4, "RMORALES", "MA", "01", "1", "", QDate(2026, 11, 22)};
+    return {4, "RMORALES", "MA", "01", "1", "", QDate(2026, 11, 22), {}};
 }
 
 QVariant valueOf(const Parameters &parameters, const char *name) {
@@ -23,11 +23,6 @@ QVariant valueOf(const Parameters &parameters, const char *name) {
     }
     ADD_FAILURE() << "no parameter " << name;
     return {};
-}
-
-bool has(const Parameters &parameters, const char *name) {
-    return std::any_of(parameters.begin(), parameters.end(),
-                       [&](const auto &one) { return one.first == QLatin1String(name); });
 }
 
 QString noteText(const NoteDraft &draft, const char *name) {
