@@ -133,7 +133,7 @@ TEST_F(FRMDatosCajaTest, DesksAreDeletedUntilNoneIsLeft) {
         EXPECT_TRUE(list.contains(text)) << text;
     }
     EXPECT_TRUE(list.contains("Campus Valle Norte"));
-    EXPECT_TRUE(list.contains("CLÍNICA\nFACULTAD\n")) << "the pair of the cut";
+    EXPECT_TRUE(list.contains("CLINICA\nFACULTAD\n")) << "the pair of the cut";
     station.frame.disabledEntries.clear();
     for (int left = 1; left >= 0; --left) {
         answer(kRemove);
