@@ -163,11 +163,11 @@ void FirebirdAttachment::open(const FirebirdLogin &login) {
                          [self, login] { self->attach(login); });
         } catch (const CallCut &cut) {
             throw DatabaseError(
-                (cut.givenUp ? QStringLiteral("No se pudo abrir %1: se dejó de esperar.")
-                             : QStringLiteral("No se pudo abrir %1: el servidor no respondió en "
-                                              "%2 segundos."))
-                    .arg(databaseInWords(connection))
-                    .arg(limit.count()),
+                QStringLiteral("No se pudo abrir %1: %2.")
+                    .arg(databaseInWords(connection),
+                         cut.givenUp ? QStringLiteral("se dejó de esperar")
+                                     : QStringLiteral("el servidor no respondió en %1 segundos")
+                                           .arg(limit.count())),
                 {DatabaseFailure::CannotAttach, {}, 0, {}, connection, {}});
         }
     }

@@ -238,8 +238,10 @@ void FirebirdConnection::open() {
         return;
     }
     attachment_.reset();
-    const bool repeated = refusal_.repeats(database());
-    if (!isEmbedded(database()) && refusal_.fresh(database())) {
+    // Only a server makes a person wait for each try: a file is tried, and told of, each time.
+    const bool server = !isEmbedded(database());
+    const bool repeated = server && refusal_.repeats(database());
+    if (server && refusal_.fresh(database())) {
         refusal_.tell(repeated);
     }
     chooseLockFolder(database());

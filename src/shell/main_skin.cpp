@@ -159,9 +159,9 @@ const Ground kDark{{0x3d, 0x43, 0x4b}, {0x2a, 0x2e, 0x34}, {0x1f, 0x22, 0x27},
                    {0x26, 0x2a, 0x30}, {0xe8, 0xeb, 0xef}, {0x4a, 0x52, 0x5c},
                    {0xa3, 0xab, 0xb5}, {0x9a, 0xa3, 0xae}, {0x4a, 0x52, 0x5c}};
 
-/// The same colour, deep enough for white letters.
-QColor underWhite(QColor colour) {
-    while (contrast(Qt::white, colour) < kReadable) {
+/// The same colour, deep enough for letters of it on a light ground, or for such letters on it.
+QColor deepEnough(QColor colour, const QColor &light) {
+    while (contrast(light, colour) < kReadable) {
         colour = colour.darker(104);
     }
     return colour;
@@ -178,8 +178,9 @@ QPalette paletteOf(const Ground &ground, const QColor &highlight, const QColor &
     palette.setColor(QPalette::ButtonText, ground.ink);
     palette.setColor(QPalette::Highlight, highlight);
     palette.setColor(QPalette::HighlightedText, highlighted);
-    palette.setColor(QPalette::Link,
-                     ground.window.lightness() < 128 ? highlight : underWhite(highlight));
+    palette.setColor(QPalette::Link, ground.window.lightness() < 128
+                                         ? highlight
+                                         : deepEnough(highlight, ground.window));
     palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfb, 0xe6));
     palette.setColor(QPalette::ToolTipText, kInk);
     palette.setColor(QPalette::PlaceholderText, ground.placeholder);
@@ -347,7 +348,7 @@ void applyScheme(const ColourScheme *scheme) {
         // ground is the pale one too.
         selected = scheme->kaldoSelect;
         text = kInk;
-        focus = scheme->dark ? scheme->kaldoSelect : underWhite(scheme->kaldoColor);
+        focus = scheme->dark ? scheme->kaldoSelect : deepEnough(scheme->kaldoColor, Qt::white);
     }
     const QPalette palette =
         paletteOf(ground, focus, contrast(Qt::white, focus) < kReadable ? kInk : QColor(Qt::white));

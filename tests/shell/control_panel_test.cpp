@@ -402,7 +402,7 @@ TEST_F(ControlPanel, ReceiptsAreKeptByTheMenu) {
 
         at.pick("GridRecibos", "Agregar Registro");
         at.messages.expectConfirmation("¿La Información es Correcta?", Answer::Yes);
-        at.messages.expectError("Un valor no corresponde a su campo.*");
+        at.messages.expectError("Falta un dato obligatorio*");
         at.pick("GridRecibos", "Grabar Registro");
         press(Qt::Key_Escape);
 

@@ -86,7 +86,7 @@ TEST_F(ControlUsuarios, UserIsAddedWithRightsByKeysAlone) {
     EXPECT_EQ(user("mesa1",
                    "pass||'|'||nombre||'|'||num_caja||'|'||centro||'|'||turno||'|'||"
                    "acceso||'|'||origen||'|'||mpo||'|'||campus"),
-              "clave|ANA \"LA\" 100% SOTO|12|01|CO|MA|VAN|1|1");
+              "clave|ANA \"LA\" 100% SOTO|12|01|CO|MA|VAN|1|2");
     const QStringList given = QString("b1 b2 b3 h1a h2f a3 e5d f3 e2 i2 e3 b12a j3 f61").split(' ');
     QString rights;
     for (const QString &column : given) {

@@ -48,11 +48,13 @@ TEST(Login, CashierFillsTheSession) {
 
 TEST(Login, TellsOfReceiptsThatWereNeverFinished) {
     ShellStation station;
-    Context &context = station.program->context();
-    context.local.MarcaRecibo.execute({{"caja", 1}, {"nota", 1}});
-    context.caja.UDatosCaja.execute({{"caja", 1}, {"nota", 2}});
     station.messages.expectWarning("Los recibos de la nota 1-1 no se terminaron de imprimir. *");
-    station.logIn("cajero1", "caja1");
+    station.atLogin([&] {
+        Context &context = station.program->context();
+        context.local.MarcaRecibo.execute({{"caja", 1}, {"nota", 1}});
+        context.caja.UDatosCaja.execute({{"caja", 1}, {"nota", 2}});
+        station.typeUser("cajero1", "caja1");
+    });
 }
 
 TEST(Login, OtherProfilesKeepTheCashiersShift) {
