@@ -279,6 +279,7 @@ void DataGrid::setDoubleClickHandler(Handler handler) {
 
 void DataGrid::setTabHeld(bool held) {
     state_->tabHeld = held;
+    setTabKeyNavigation(held && rowEdit_);
 }
 
 void DataGrid::setRowColor(std::function<QColor(int)> color) {
@@ -291,6 +292,8 @@ void DataGrid::setRowEdit(bool on) {
         cancelEditor();
     }
     rowEdit_ = on;
+    // Else Tab leaves the grid before keyPressEvent() is asked.
+    setTabKeyNavigation(on && state_->tabHeld);
     if (on && !currentIndex().isValid()) {
         setCurrentRow(0);
     }
