@@ -393,7 +393,11 @@ void CataloguePanel::keyEdited(const QString &field) {
     if (inserting() && rules_.fixedOnEdit.contains(field, Qt::CaseInsensitive) &&
         rules_.enter.contains(field)) {
         saveAllowed_ = false;
-        updateButtons();
+        // "&Grabar" itself, pressed from the cell, takes the text along: what is greyed under its
+        // own stroke does nothing and passes the focus on to "&Cancelar". save() asks for the test.
+        if (!save_->hasFocus()) {
+            updateButtons();
+        }
     }
 }
 
