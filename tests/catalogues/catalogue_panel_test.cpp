@@ -80,7 +80,8 @@ TEST_F(CataloguePanelTest, ModesOpenTheButtonsAndKeysMoveTheRow) {
     alt(Qt::Key_I);
     EXPECT_EQ(buttons(), "000100");
     press(Qt::Key_Tab);
-    EXPECT_EQ(grid()->currentField(), "CLAVE") << "Tab is swallowed";
+    EXPECT_TRUE(grid()->hasFocus()) << "Tab is swallowed";
+    EXPECT_EQ(grid()->currentField(), "CLAVE");
     enter("77");
     EXPECT_EQ(buttons(), "001100");
     save();
@@ -120,14 +121,17 @@ TEST_F(CataloguePanelTest, ARefusedWriteKeepsTheRowOpenOrDropsItAsTheCatalogueSa
         PlainCatalogue::writeFailure = told;
         open();
         const QString before = stored("01");
-        typeOver("otra");
+        const QString text = QString("otra %1").arg(static_cast<int>(told));
+        typeOver(text);
+        answer(kSave);
         refuseWrite();
-        save();
+        alt(Qt::Key_G);
+        station.messages.verify();
         EXPECT_EQ(stored("01"), before);
         if (told == WriteFailure::KeepsRowOpen) {
-            EXPECT_EQ(query().text("descripcion"), "otra");
+            EXPECT_EQ(query().text("descripcion"), text);
             save();
-            EXPECT_EQ(stored("01"), "otra") << "the second try";
+            EXPECT_EQ(stored("01"), text) << "the second try";
         }
         EXPECT_FALSE(panel()->editing());
     }
@@ -164,7 +168,8 @@ TEST_F(CataloguePanelTest, TheLastWriteWinsAndARowThatIsGoneIsTold) {
 TEST_F(CataloguePanelTest, ADeletionShowsItsRowAndTakesNoForAnAnswer) {
     open();
     const int rows = query().count();
-    press(Qt::Key_End);
+    press(Qt::Key_End, Qt::ControlModifier);
+    ASSERT_EQ(query().position(), rows - 1);
     answer(kRemove, Answer::No);
     alt(Qt::Key_B);
     const Message box = station.messages.boxes().last();
@@ -195,15 +200,17 @@ TEST_F(CataloguePanelTest, AKeyIsTestedHoweverTheRowIsSaved) {
     EXPECT_TRUE(button("SpeedButton3")->isEnabled());
     press(Qt::Key_Left);
     typeText("01");  // over the accepted one
-    press(Qt::Key_Right);
-    EXPECT_FALSE(button("SpeedButton3")->isEnabled());
     station.messages.expectInformation("Ya existe.");
-    enter("descripción");  // the last column saves
+    alt(Qt::Key_G);  // past its Enter
     station.messages.verify();
     EXPECT_EQ(grid()->currentField(), "CLAVE");
+    EXPECT_FALSE(button("SpeedButton3")->isEnabled());
+    EXPECT_TRUE(grid()->hasFocus());
     enter("8");
-    press(Qt::Key_Right);
-    save();
+    EXPECT_EQ(grid()->currentField(), "DESCRIPCION");
+    answer(kSave);
+    enter("descripción");  // the last column saves
+    station.messages.verify();
     EXPECT_EQ(stored("8"), "descripción");
 }
 

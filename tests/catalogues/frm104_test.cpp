@@ -103,6 +103,7 @@ TEST_F(FRM104Test, AServiceIsOpenedChangedDeletedAndCreatedAgain) {
 
     // An area that is emptied, or written over, is none: nothing can be written for it.
     child<LookupField>(screen.get(), "AreaVentas")->setFocus();
+    child<LookupField>(screen.get(), "AreaVentas")->selectAll();
     settle();
     press(Qt::Key_Delete);
     EXPECT_FALSE(query().isOpen() || button("SpeedButton1")->isEnabled() || percent->isEnabled());
@@ -149,7 +150,7 @@ TEST_F(FRM104Test, DiscountsDecideWhetherTheServiceHasAny) {
         picture(discounts->window(), "frm104a_insert");
         enter("0");
         station.messages.expectWarning("El descuento no puede pasar de 100 %.");
-        enter("-101");
+        enter("101");
         EXPECT_TRUE(discounts->editing());
         answer(kDiscountCorrect);
         enter("15");

@@ -78,7 +78,7 @@ TEST_F(FRM111Test, ARateThatStandsOrIsNoneIsRefused) {
         {"", "Campo Obligatorio, vuelva a intentar", true},
         {"0.00", "Campo Obligatorio, vuelva a intentar", true},
         {"18.1234", "Este Tipo de cambio ya existe para esta fecha, vuelva a intentar", false},
-        {"-19.50abc", "Este Tipo de cambio ya existe para esta fecha, vuelva a intentar", false},
+        {"19.50abc", "Este Tipo de cambio ya existe para esta fecha, vuelva a intentar", false},
     };
     open();
     for (const auto &each : cases) {
@@ -101,8 +101,10 @@ TEST_F(FRM111Test, ARateThatStandsOrIsNoneIsRefused) {
     }
     EXPECT_EQ(inForce(), 19.5);
     alt(Qt::Key_I);
-    enter("1.2.3");
-    EXPECT_TRUE(grid()->editorOpen()) << "told beside the cell, and kept";
+    for (const char *typed : {"1.2.3", "-20.50"}) {
+        enter(typed);
+        EXPECT_TRUE(grid()->editorOpen()) << typed << " is told beside the cell, and kept";
+    }
     press(Qt::Key_Escape);
     press(Qt::Key_Escape);
     EXPECT_EQ(query().count(), 3);
