@@ -1,6 +1,7 @@
 #include "cashdesk/desk_reservation.h"
 
 #include "data/database_error.h"
+#include "toolkit/core/log.h"
 
 namespace kaldo {
 
@@ -19,7 +20,8 @@ DeskReservation::~DeskReservation() {
     }
     try {
         caja_.LiberaCaja.execute({{QStringLiteral("num_caja"), numCaja_}});
-    } catch (const DatabaseError &) {
+    } catch (const DatabaseError &failure) {
+        logSwallowed(QStringLiteral("uso de la caja %1").arg(numCaja_), failure);
         // It lapses with the attachment, or after some minutes.
     }
 }
